@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Geometry.h"
+
+#include <optional>
+
+namespace velto
+{
+
+struct Screen {
+    Rect frame;        ///< All of it.
+    Rect visibleFrame; ///< Less panel bars and docks.
+    bool operator==(const Screen&) const = default;
+};
+
+/// The screens at this moment; they come and go.
+class Screens
+{
+public:
+    virtual ~Screens() = default;
+
+    /// Absent while no screen is attached.
+    [[nodiscard]] virtual std::optional<Screen> mainScreen() const = 0;
+    /// The screen that holds the middle of `rect`, else absent.
+    [[nodiscard]] virtual std::optional<Screen> screenOf(const Rect& rect) const = 0;
+};
+
+} // namespace velto
