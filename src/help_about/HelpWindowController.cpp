@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "help_about/HelpWindowController.h"
+
+#include "platform/Application.h"
+#include "platform/KeyValueStore.h"
+
+#include <utility>
+
+namespace velto
+{
+
+namespace
+{
+constexpr auto launchedBeforeKey = "hasLaunchedBefore";
+}
+
+HelpWindowController::HelpWindowController(WindowFactory makeWindow) : m_makeWindow(std::move(makeWindow)) { }
+
+Window& HelpWindowController::panel()
+{
+    if (!m_panel)
+        m_panel = m_makeWindow();
+    return *m_panel;
+}
+
+void HelpWindowController::showWelcomeIfNeeded(
+    KeyValueStore& store, Application& application, const WindowFactory& makeWindow)
+{
+    if (store.value<bool>(launchedBeforeKey).value_or(false))
+        return;
+    // Before anything is shown: a process that ends while the window is open has still welcomed.
+    store.set(launchedBeforeKey, true);
+
+    HelpWindowController welcome{makeWindow};
+    application.activate();
+    welcome.panel().makeKeyAndOrderFront();
+}
+
+} // namespace velto

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "style/Symbols.h"
+
+#include <QFile>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace velto
+{
+
+namespace
+{
+
+constexpr double disabledOpacity = 0.4;
+
+QPixmap render(const QString& name, const QSize& pixels, const QColor& color)
+{
+    const auto file = QStringLiteral(":/symbols/%1.svg").arg(name);
+    if (pixels.isEmpty() || !QFile::exists(file))
+        return {};
+    const auto key
+        = QStringLiteral("%1 %2x%3 %4").arg(file).arg(pixels.width()).arg(pixels.height()).arg(color.rgba(), 0, 16);
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap))
+        return pixmap;
+
+    pixmap = QPixmap(pixels);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    const double side = std::min(pixels.width(), pixels.height());
+    QSvgRenderer(file).render(&painter, QRectF((pixels.width() - side) / 2, (pixels.height() - side) / 2, side, side));
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(pixmap.rect(), color);
+    painter.end();
+    QPixmapCache::insert(key, pixmap);
+    return pixmap;
+}
+
+class SymbolIconEngine final : public QIconEngine
+{
+public:
+    SymbolIconEngine(QString name, QColor color) : m_name(std::move(name)), m_color(color) { }
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        const double ratio = painter->device()->devicePixelRatio();
+        painter->drawPixmap(rect, pixmap((QSizeF(rect.size()) * ratio).toSize(), mode, state));
+    }
+
+    QPixmap pixmap(const QSize& pixels, QIcon::Mode mode, QIcon::State) override
+    {
+        auto color = m_color;
+        if (mode == QIcon::Disabled)
+            color.setAlphaF(static_cast<float>(color.alphaF() * disabledOpacity));
+        return render(m_name, pixels, color);
+    }
+
+    bool isNull() override { return false; }
+    QIconEngine* clone() const override { return new SymbolIconEngine(m_name, m_color); }
+
+private:
+    QString m_name;
+    QColor m_color;
+};
+
+} // namespace
+
+QPixmap symbolPixmap(const QString& name, double points, const QColor& color, double devicePixelRatio)
+{
+    const int side = static_cast<int>(std::lround(points * devicePixelRatio));
+    auto pixmap = render(name, {side, side}, color);
+    pixmap.setDevicePixelRatio(devicePixelRatio);
+    return pixmap;
+}
+
+QIcon symbolIcon(const QString& name, const QColor& color)
+{
+    return QIcon(new SymbolIconEngine(name, color));
+}
+
+} // namespace velto

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QIcon>
+#include <QPixmap>
+
+class QColor;
+class QString;
+
+namespace velto
+{
+
+/// The symbol `name` in one colour, on a transparent square of `points` a side, drawn anew for each
+/// `devicePixelRatio`. Null when there is no symbol of that name.
+[[nodiscard]] QPixmap symbolPixmap(
+    const QString& name, double points, const QColor& color, double devicePixelRatio = 1);
+
+/// The same for buttons and menus: any size, pale while disabled. Draws nothing when there is no
+/// symbol of that name.
+[[nodiscard]] QIcon symbolIcon(const QString& name, const QColor& color);
+
+} // namespace velto

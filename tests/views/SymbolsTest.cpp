@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "style/Symbols.h"
+
+#include <QColor>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+namespace velto
+{
+
+namespace
+{
+
+constexpr const char* allSymbols[]
+    = {"arrow.counterclockwise", "gearshape", "gearshape.fill", "info.circle", "lightbulb.fill", "music.note",
+        "pause.fill", "play.circle.fill", "play.fill", "questionmark.circle", "timer", "timer.circle.fill"};
+
+/// The share of a picture's area that is drawn on, 0 to 1.
+double coverage(const QImage& image)
+{
+    double sum = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            sum += image.pixelColor(x, y).alphaF();
+    return sum / (image.width() * image.height());
+}
+
+class SymbolTest : public testing::TestWithParam<const char*>
+{
+};
+
+TEST_P(SymbolTest, IsDrawnInTheColourAskedForAndNoOther)
+{
+    const auto image = symbolPixmap(GetParam(), 24, QColor(10, 120, 200)).toImage();
+
+    ASSERT_EQ(image.size(), QSize(24, 24));
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (const auto pixel = image.pixelColor(x, y); pixel.alpha() == 255) {
+                EXPECT_EQ(pixel.rgb(), qRgb(10, 120, 200)) << x << ',' << y;
+            }
+        }
+    }
+    EXPECT_GT(coverage(image), 0.08);
+    EXPECT_LT(coverage(image), 0.75);
+}
+
+TEST_P(SymbolTest, CoversTheSameAreaAtEverySize)
+{
+    const double small = coverage(symbolPixmap(GetParam(), 16, Qt::black).toImage());
+    const double large = coverage(symbolPixmap(GetParam(), 96, Qt::black).toImage());
+
+    EXPECT_NEAR(small, large, 0.02);
+}
+
+TEST_P(SymbolTest, HasOnePixelForEachDevicePixel)
+{
+    const auto pixmap = symbolPixmap(GetParam(), 16, Qt::black, 3);
+
+    EXPECT_EQ(pixmap.size(), QSize(48, 48));
+    EXPECT_EQ(pixmap.deviceIndependentSize(), QSizeF(16, 16));
+}
+
+TEST_P(SymbolTest, IconIsDrawnAtTheSizeOfTheScreenAndPaleWhileDisabled)
+{
+    const auto icon = symbolIcon(GetParam(), Qt::black);
+
+    const auto normal = icon.pixmap(QSize(20, 20), 2, QIcon::Normal);
+    const auto disabled = icon.pixmap(QSize(20, 20), 2, QIcon::Disabled);
+
+    EXPECT_EQ(normal.size(), QSize(40, 40));
+    EXPECT_EQ(normal.toImage(), symbolPixmap(GetParam(), 20, Qt::black, 2).toImage());
+    EXPECT_NEAR(coverage(disabled.toImage()), 0.4 * coverage(normal.toImage()), 0.01);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, SymbolTest, testing::ValuesIn(allSymbols), [](const auto& test) {
+    std::string name = test.param;
+    std::erase(name, '.');
+    return name;
+});
+
+TEST(SymbolsTest, AnUnknownNameIsANullPixmapAndAnIconThatDrawsNothing)
+{
+    EXPECT_TRUE(symbolPixmap("no.such.symbol", 16, Qt::black).isNull());
+    EXPECT_TRUE(symbolIcon("no.such.symbol", Qt::black).pixmap(16, 16).isNull());
+}
+
+} // namespace
+
+} // namespace velto
