@@ -3,8 +3,7 @@
 
 #include <utility>
 
-namespace velto
-{
+namespace velto {
 
 AboutWindowController::AboutWindowController(WindowFactory makeWindow) : m_makeWindow(std::move(makeWindow)) { }
 

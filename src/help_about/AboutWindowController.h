@@ -6,12 +6,10 @@
 #include <functional>
 #include <memory>
 
-namespace velto
-{
+namespace velto {
 
 /// Owns the window that says what the program is.
-class AboutWindowController final : public WindowController
-{
+class AboutWindowController final : public WindowController {
 public:
     using WindowFactory = std::function<std::unique_ptr<Window>()>;
 

@@ -6,11 +6,9 @@
 
 #include <utility>
 
-namespace velto
-{
+namespace velto {
 
-namespace
-{
+namespace {
 constexpr auto launchedBeforeKey = "hasLaunchedBefore";
 }
 

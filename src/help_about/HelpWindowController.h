@@ -6,15 +6,13 @@
 #include <functional>
 #include <memory>
 
-namespace velto
-{
+namespace velto {
 
 class Application;
 class KeyValueStore;
 
 /// Owns a window with the usage notes.
-class HelpWindowController final : public WindowController
-{
+class HelpWindowController final : public WindowController {
 public:
     using WindowFactory = std::function<std::unique_ptr<Window>()>;
 

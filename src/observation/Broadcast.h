@@ -9,8 +9,7 @@
 #include <utility>
 #include <vector>
 
-namespace velto
-{
+namespace velto {
 
 /// Delivers a value to every subscriber, in the order of subscription.
 ///
@@ -18,8 +17,7 @@ namespace velto
 /// broadcast are all allowed during a delivery. Who is dropped hears nothing more of it; who
 /// joins is reached by the delivery under way. Subscriptions may outlive the broadcast.
 template <class... Args>
-class Broadcast
-{
+class Broadcast {
 public:
     using Handler = std::function<void(const Args&...)>;
 

@@ -3,19 +3,17 @@
 
 #include "observation/Published.h"
 
-#include <functional>
 #include <memory>
 #include <tuple>
 #include <utility>
 #include <vector>
 
-namespace velto
-{
+namespace velto {
 
 /// Observes several published values as one: `handler` gets the latest of all of them, once on
 /// subscription and then for every assignment of any. The values must outlive the subscription.
-template <class... T>
-Subscription combineLatest(std::function<void(const T&...)> handler, const Published<T>&... sources)
+template <class Handler, class... T>
+Subscription combineLatest(Handler handler, const Published<T>&... sources)
 {
     struct State {
         std::tuple<T...> latest;

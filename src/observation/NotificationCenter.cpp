@@ -3,8 +3,7 @@
 
 #include <utility>
 
-namespace velto
-{
+namespace velto {
 
 NotificationCenter& NotificationCenter::defaultCenter()
 {

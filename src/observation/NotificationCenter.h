@@ -8,8 +8,7 @@
 #include <map>
 #include <string>
 
-namespace velto
-{
+namespace velto {
 
 struct Notification {
     std::string name;
@@ -19,8 +18,7 @@ struct Notification {
 /// Broadcasts named notifications inside the process, synchronously and in the order of registration.
 ///
 /// Main thread only.
-class NotificationCenter
-{
+class NotificationCenter {
 public:
     using Handler = std::function<void(const Notification&)>;
 

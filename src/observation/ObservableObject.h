@@ -5,14 +5,12 @@
 
 #include <functional>
 
-namespace velto
-{
+namespace velto {
 
 /// An object that says when any of its published properties is about to change.
 ///
 /// Main thread only. Declared as a base, so that it outlives the properties that announce through it.
-class ObservableObject
-{
+class ObservableObject {
 public:
     ObservableObject() = default;
     ObservableObject(const ObservableObject&) = delete;

@@ -6,15 +6,13 @@
 #include <functional>
 #include <utility>
 
-namespace velto
-{
+namespace velto {
 
 /// A value whose observers hear of every assignment before it is stored.
 ///
 /// An assignment of an equal value is announced like any other. Main thread only.
 template <class T>
-class Published
-{
+class Published {
 public:
     using Handler = std::function<void(const T&)>;
 
@@ -49,8 +47,7 @@ private:
 
 /// A published value that only its owner assigns.
 template <class T, class Owner>
-class ReadOnlyPublished : public Published<T>
-{
+class ReadOnlyPublished : public Published<T> {
 public:
     using Published<T>::Published;
 

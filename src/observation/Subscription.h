@@ -4,14 +4,12 @@
 #include <functional>
 #include <utility>
 
-namespace velto
-{
+namespace velto {
 
 /// Keeps something going - an observation, a timer, a pending action - until it is dropped.
 ///
 /// Main thread only. An empty subscription keeps nothing.
-class [[nodiscard]] Subscription
-{
+class [[nodiscard]] Subscription {
 public:
     Subscription() = default;
     explicit Subscription(std::function<void()> end) : m_end(std::move(end)) { }

@@ -3,8 +3,7 @@
 
 #include <optional>
 
-namespace velto
-{
+namespace velto {
 
 /// A click on the status item.
 struct ClickEvent {
@@ -16,8 +15,7 @@ struct ClickEvent {
 };
 
 /// The process as the desktop sees it.
-class Application
-{
+class Application {
 public:
     virtual ~Application() = default;
 

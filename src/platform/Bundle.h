@@ -5,12 +5,10 @@
 #include <string>
 #include <string_view>
 
-namespace velto
-{
+namespace velto {
 
 /// What the installed program says of itself.
-class Bundle
-{
+class Bundle {
 public:
     virtual ~Bundle() = default;
 

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-namespace velto
-{
+namespace velto {
 
 /// The user's calendar.
-class Calendar
-{
+class Calendar {
 public:
     virtual ~Calendar() = default;
 

@@ -6,12 +6,10 @@
 #include <functional>
 #include <optional>
 
-namespace velto
-{
+namespace velto {
 
 /// Watches mouse presses that go to other applications.
-class EventMonitor
-{
+class EventMonitor {
 public:
     virtual ~EventMonitor() = default;
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-namespace velto
-{
+namespace velto {
 
 // Geometry is in points (one point is one logical pixel), origin at the bottom left, y upwards.
 

@@ -8,8 +8,7 @@
 #include <variant>
 #include <vector>
 
-namespace velto
-{
+namespace velto {
 
 using Blob = std::vector<std::uint8_t>;
 
@@ -17,8 +16,7 @@ using Blob = std::vector<std::uint8_t>;
 using StoredValue = std::variant<std::int64_t, bool, float, std::string, Blob>;
 
 /// The user's persistent values. Main thread only.
-class KeyValueStore
-{
+class KeyValueStore {
 public:
     virtual ~KeyValueStore() = default;
 

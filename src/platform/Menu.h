@@ -8,8 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace velto
-{
+namespace velto {
 
 struct Menu;
 

@@ -3,12 +3,10 @@
 
 #include "platform/Geometry.h"
 
-namespace velto
-{
+namespace velto {
 
 /// The floating card: above other windows, on every workspace, never taking the focus by being shown.
-class PanelWindow
-{
+class PanelWindow {
 public:
     virtual ~PanelWindow() = default;
 

@@ -6,15 +6,13 @@
 #include <chrono>
 #include <functional>
 
-namespace velto
-{
+namespace velto {
 
 /// Runs work later on the main thread; keeps going while a menu is open.
 ///
 /// What is returned keeps the work scheduled: dropping it, also from within the work, cancels it.
 /// Handles must not outlive the run loop. Main thread only.
-class RunLoop
-{
+class RunLoop {
 public:
     virtual ~RunLoop() = default;
 

@@ -5,8 +5,7 @@
 
 #include <optional>
 
-namespace velto
-{
+namespace velto {
 
 struct Screen {
     Rect frame;        ///< All of it.
@@ -15,8 +14,7 @@ struct Screen {
 };
 
 /// The screens at this moment; they come and go.
-class Screens
-{
+class Screens {
 public:
     virtual ~Screens() = default;
 

@@ -4,12 +4,10 @@
 #include <memory>
 #include <string_view>
 
-namespace velto
-{
+namespace velto {
 
 /// A short sound, ready to play.
-class Sound
-{
+class Sound {
 public:
     virtual ~Sound() = default;
 
@@ -19,8 +17,7 @@ public:
 };
 
 /// The named alert sounds.
-class SoundLibrary
-{
+class SoundLibrary {
 public:
     virtual ~SoundLibrary() = default;
 

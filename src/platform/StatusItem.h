@@ -9,14 +9,12 @@
 #include <optional>
 #include <string>
 
-namespace velto
-{
+namespace velto {
 
 enum class FontWeight { regular, semibold, bold };
 
 /// The visible part of a status item: a short text that can be clicked.
-class StatusItemButton
-{
+class StatusItemButton {
 public:
     virtual ~StatusItemButton() = default;
 
@@ -35,8 +33,7 @@ public:
 };
 
 /// The program's place in the desktop's panel bar.
-class StatusItem
-{
+class StatusItem {
 public:
     virtual ~StatusItem() = default;
 

@@ -4,12 +4,10 @@
 #include <memory>
 #include <string>
 
-namespace velto
-{
+namespace velto {
 
 /// Plays one audio stream. Main thread only; no call waits for the network.
-class StreamPlayer
-{
+class StreamPlayer {
 public:
     virtual ~StreamPlayer() = default;
 
@@ -24,8 +22,7 @@ public:
     virtual void pause() = 0;
 };
 
-class StreamPlayerFactory
-{
+class StreamPlayerFactory {
 public:
     virtual ~StreamPlayerFactory() = default;
 

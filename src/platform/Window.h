@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-namespace velto
-{
+namespace velto {
 
 /// A window that takes the focus when it is shown, and that closing only hides.
 ///
 /// Dropping this object leaves a visible window on the screen until the user closes it.
-class Window
-{
+class Window {
 public:
     virtual ~Window() = default;
 
@@ -17,8 +15,7 @@ public:
 };
 
 /// Owns one window.
-class WindowController
-{
+class WindowController {
 public:
     virtual ~WindowController() = default;
 

@@ -3,12 +3,10 @@
 
 #include <string>
 
-namespace velto
-{
+namespace velto {
 
 /// Hands things over to the desktop.
-class Workspace
-{
+class Workspace {
 public:
     virtual ~Workspace() = default;
 

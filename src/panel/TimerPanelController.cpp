@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "panel/TimerPanelController.h"
+
+#include "platform/EventMonitor.h"
+#include "platform/Screens.h"
+#include "platform/StatusItem.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace velto {
+
+namespace {
+
+constexpr double gap = 6;
+constexpr double bottomMargin = 20;
+
+} // namespace
+
+Rect placePanel(std::optional<Rect> button, const Rect& visibleFrame, Size panelSize)
+{
+    const double topmostY = visibleFrame.maxY() - panelSize.height - gap;
+    if (!button)
+        return {visibleFrame.midX() - panelSize.width / 2, topmostY, panelSize.width, panelSize.height};
+
+    double x = button->midX() - panelSize.width / 2;
+    x = std::min(x, visibleFrame.maxX() - panelSize.width);
+    x = std::max(visibleFrame.minX(), x);
+    double y = button->minY() - panelSize.height - gap;
+    if (y < visibleFrame.minY() + bottomMargin)
+        y = topmostY;
+    return {x, y, panelSize.width, panelSize.height};
+}
+
+TimerPanelController::TimerPanelController(
+    PomodoroTimer& timer, AppSettings& settings, Screens& screens, EventMonitor& eventMonitor, PanelFactory makePanel) :
+    m_timer(timer),
+    m_settings(settings),
+    m_screens(screens),
+    m_eventMonitor(eventMonitor),
+    m_makePanel(std::move(makePanel))
+{
+}
+
+PanelWindow& TimerPanelController::panel()
+{
+    if (!m_panel)
+        m_panel = m_makePanel(m_timer, m_settings, panelSize);
+    return *m_panel;
+}
+
+void TimerPanelController::show(const StatusItemButton* button)
+{
+    positionPanel(button);
+    panel().orderFrontRegardless();
+}
+
+void TimerPanelController::hide()
+{
+    panel().orderOut();
+    m_outsideMonitor.reset();
+}
+
+void TimerPanelController::positionPanel(const StatusItemButton* button)
+{
+    const auto buttonFrame = button ? button->frame() : std::nullopt;
+    auto screen = buttonFrame ? m_screens.screenOf(*buttonFrame) : std::nullopt;
+    if (!screen)
+        screen = m_screens.mainScreen();
+    if (!screen)
+        return;
+
+    panel().setFrame(placePanel(buttonFrame, screen->visibleFrame, panelSize));
+    installOutsideMonitor();
+}
+
+void TimerPanelController::installOutsideMonitor()
+{
+    if (!m_outsideMonitor)
+        m_outsideMonitor = m_eventMonitor.addOutsidePressMonitor([this] { hide(); });
+}
+
+} // namespace velto

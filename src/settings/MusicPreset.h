@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+namespace velto {
+
+/// The sources of background music, in the order of the pickers and menus.
+enum class MusicPreset { lofi, ambient, grooveSalad, defconRadio, spaceStation, lush, custom };
+
+inline constexpr std::array allMusicPresets{
+    MusicPreset::lofi,
+    MusicPreset::ambient,
+    MusicPreset::grooveSalad,
+    MusicPreset::defconRadio,
+    MusicPreset::spaceStation,
+    MusicPreset::lush,
+    MusicPreset::custom,
+};
+
+/// The text shown and the stored value at once.
+[[nodiscard]] std::string_view rawValue(MusicPreset preset);
+
+/// Absent for a text that is not exactly a raw value.
+[[nodiscard]] std::optional<MusicPreset> musicPreset(std::string_view rawValue);
+
+/// Address of the stream; empty for `custom`, whose address the user types.
+[[nodiscard]] std::string_view streamUrl(MusicPreset preset);
+
+/// One line about the stream.
+[[nodiscard]] std::string_view description(MusicPreset preset);
+
+} // namespace velto
