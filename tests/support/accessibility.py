@@ -1,0 +1,136 @@
+# SPDX-License-Identifier: MIT
+"""The accessibility tree of a desktop, asked directly over its bus: nothing is cached."""
+from gi.repository import Gio, GLib
+
+_ACCESSIBLE = "org.a11y.atspi.Accessible"
+_ROOT = "/org/a11y/atspi/accessible/root"
+_STATES = {"active": 1, "checked": 4, "editable": 7, "enabled": 8, "focusable": 11, "focused": 12, "sensitive": 24,
+           "showing": 25, "visible": 30}
+
+
+class Accessible:
+    """One object of the tree. Everything raises GLib.Error when the object is gone."""
+
+    def __init__(self, bus, name, path):
+        self._bus, self._name, self._path = bus, name, path
+
+    def __eq__(self, other):
+        return (self._name, self._path) == (other._name, other._path)
+
+    def __repr__(self):
+        try:
+            return f"<{self.role} {self.name!r}>"
+        except GLib.Error:
+            return "<gone>"
+
+    def _call(self, interface, method, arguments=None):
+        return self._bus.call_sync(self._name, self._path, interface, method, arguments, None,
+                                   Gio.DBusCallFlags.NONE, 10000, None).unpack()
+
+    def _get(self, interface, prop):
+        return self._call("org.freedesktop.DBus.Properties", "Get", GLib.Variant("(ss)", (interface, prop)))[0]
+
+    @property
+    def name(self):
+        return self._get(_ACCESSIBLE, "Name")
+
+    @property
+    def role(self):
+        """Such as "push button", "label", "frame"."""
+        return self._call(_ACCESSIBLE, "GetRoleName")[0]
+
+    @property
+    def description(self):
+        return self._get(_ACCESSIBLE, "Description")
+
+    @property
+    def children(self):
+        return [Accessible(self._bus, name, path) for name, path in self._call(_ACCESSIBLE, "GetChildren")[0]]
+
+    def has_state(self, state):
+        low, high = self._call(_ACCESSIBLE, "GetState")[0]
+        return bool((low | high << 32) >> _STATES[state] & 1)
+
+    @property
+    def showing(self):
+        return self.has_state("showing")
+
+    @property
+    def text(self):
+        return self._call("org.a11y.atspi.Text", "GetText", GLib.Variant("(ii)", (0, -1)))[0]
+
+    @text.setter
+    def text(self, value):
+        self._call("org.a11y.atspi.EditableText", "SetTextContents", GLib.Variant("(s)", (value,)))
+
+    @property
+    def value(self):
+        return self._get("org.a11y.atspi.Value", "CurrentValue")
+
+    @value.setter
+    def value(self, value):
+        self._call("org.freedesktop.DBus.Properties", "Set", GLib.Variant(
+            "(ssv)", ("org.a11y.atspi.Value", "CurrentValue", GLib.Variant("d", value))))
+
+    @property
+    def rectangle(self):
+        """(x, y, width, height) on the screen, in pixels, from the top left."""
+        return self._call("org.a11y.atspi.Component", "GetExtents", GLib.Variant("(u)", (0,)))[0]
+
+    @property
+    def middle(self):
+        x, y, width, height = self.rectangle
+        return x + width // 2, y + height // 2
+
+    @property
+    def actions(self):
+        return [action[0] for action in self._call("org.a11y.atspi.Action", "GetActions")[0]]
+
+    def press(self):
+        """The first action: presses a button, toggles a switch."""
+        self._call("org.a11y.atspi.Action", "DoAction", GLib.Variant("(i)", (0,)))
+
+    def descendants(self):
+        for child in self.children:
+            yield child
+            yield from child.descendants()
+
+    def find_all(self, role=None, name=None, showing=True):
+        """Every descendant with this role and name (None: any), by default only what is on the screen.
+        What disappears meanwhile is left out."""
+        found = []
+        try:
+            for child in self.children:
+                try:
+                    if ((role is None or child.role == role) and (name is None or child.name == name)
+                            and (not showing or child.showing)):
+                        found.append(child)
+                    found += child.find_all(role, name, showing)
+                except GLib.Error:
+                    pass
+        except GLib.Error:
+            pass
+        return found
+
+    def find(self, role=None, name=None, showing=True):
+        """The first of find_all; LookupError without one."""
+        for found in self.find_all(role, name, showing):
+            return found
+        raise LookupError(f"no {role or 'object'} named {name!r}")
+
+    def dump(self, indent=""):
+        """The tree as text, for a person."""
+        lines = [f"{indent}{self!r}{'' if self.showing else ' (hidden)'}"]
+        for child in self.children:
+            lines.append(child.dump(indent + "  "))
+        return "\n".join(lines)
+
+
+def applications(bus):
+    return Accessible(bus, "org.a11y.atspi.Registry", _ROOT).children
+
+
+def process_of(bus, accessible):
+    return bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+                         "GetConnectionUnixProcessID", GLib.Variant("(s)", (accessible._name,)), None,
+                         Gio.DBusCallFlags.NONE, 10000, None).unpack()[0]

@@ -1,0 +1,327 @@
+# SPDX-License-Identifier: MIT
+"""A desktop of its own for one test: X server, D-Bus session, accessibility, window manager, panel bar.
+
+    with VirtualDesktop() as desktop:
+        velto = desktop.start_velto({"focusMinutes": 1})
+        velto.button("Start").press()
+        wait_for(lambda: velto.item.label == "00:59")
+
+Nothing of it is shared with the machine or with another test: display, bus, home and settings are new,
+and whatever it started is gone when it ends, also when the test itself is killed. Needs the system's
+Python (/usr/bin/python3) with gi.
+"""
+import os
+import plistlib
+import select
+import signal
+import subprocess
+import sys
+import tempfile
+
+import gi  # noqa: F401
+from gi.repository import Gio, GLib
+
+import accessibility
+import framebuffer
+from hosts import HOSTS
+from status_item import StatusItem
+from waiting import wait_for
+
+_HERE = os.path.dirname(os.path.abspath(__file__))
+_ROOT = os.path.dirname(os.path.dirname(_HERE))
+_ATSPI = ("/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher")
+
+class Velto:
+    """One run of the program."""
+
+    def __init__(self, desktop, process, output):
+        self.desktop, self.process, self._output = desktop, process, output
+
+    @property
+    def pid(self):
+        return self.process.pid
+
+    @property
+    def output(self):
+        """The lines on standard output so far."""
+        with open(self._output, encoding="utf-8") as file:
+            return file.read().splitlines()
+
+    @property
+    def app(self):
+        """Its accessibility tree. LookupError while it is not there yet."""
+        return self.desktop.application(self.pid)
+
+    @property
+    def item(self):
+        """Its status item. LookupError while it is not there yet."""
+        return StatusItem(self.desktop.bus, self.pid)
+
+    @property
+    def panel(self):
+        """The card on the screen. LookupError while it is hidden."""
+        for button in self.app.find_all("push button"):
+            if button.name in ("Start", "Pause"):
+                return button
+        raise LookupError("the panel is hidden")
+
+    @property
+    def panel_is_visible(self):
+        try:
+            return bool(self.panel)
+        except LookupError:
+            return False
+
+    def button(self, name):
+        return wait_for(lambda: self.app.find("push button", name), what=f"a button {name!r}")
+
+    def shows(self, text):
+        """Whether something named `text` is on the screen."""
+        return bool(self.app.find_all(name=text))
+
+    @property
+    def settings(self):
+        """What the settings file holds now; empty without one."""
+        try:
+            with open(self.desktop.settings_file, "rb") as file:
+                return plistlib.load(file)
+        except FileNotFoundError:
+            return {}
+
+    def wait(self, timeout=30):
+        """The exit status (negative: the signal), once it has ended."""
+        return self.process.wait(timeout)
+
+    def kill(self, chosen_signal=signal.SIGKILL):
+        self.process.send_signal(chosen_signal)
+        return self.wait()
+
+
+class VirtualDesktop:
+    """See the module. `host` is the panel bar ("xfce", "none"), `monitors` a list of (width, height, x, y)
+    inside `size`, the first being the main one; `scale` the factor at which Qt draws; `dark` the colour
+    scheme that the desktop asks for."""
+
+    def __init__(self, host="xfce", wm="xfwm4", size=(1280, 800), monitors=(), scale=1, dark=False,
+                 compositing=False, verbose=False):
+        self._host_kind, self._wm_kind, self._size = host, wm, size
+        self.monitors, self._scale, self.dark, self._compositing = monitors, scale, dark, compositing
+        self._verbose = verbose
+        self._processes = []
+        self.host = None
+
+    def __enter__(self):
+        self.folder = tempfile.mkdtemp(prefix="velto-desktop-")
+        self._guard = subprocess.Popen([sys.executable, os.path.join(_HERE, "guard.py"), self.folder],
+                                       stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        try:
+            self._start()
+        except BaseException:
+            self.close()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        self.close()
+
+    def close(self):
+        self._guard.stdin.close()
+        self._guard.stdout.read()  # until the guard has finished
+        self._guard.stdout.close()
+        for process in [self._guard, *self._processes]:
+            process.wait()
+
+    # Building it up
+
+    def _start(self):
+        for name in ("home", "config", "data", "cache", "state", "runtime", "screen", "log"):
+            os.mkdir(self.path(name), 0o700)
+        kept = ("PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS")
+        self.environment = {name: os.environ[name] for name in kept if name in os.environ} | {
+            "VELTO_DESKTOP": self.folder,
+            "LANG": "C.UTF-8",
+            "HOME": self.path("home"),
+            "XDG_CONFIG_HOME": self.path("config"),
+            "XDG_DATA_HOME": self.path("data"),
+            "XDG_CACHE_HOME": self.path("cache"),
+            "XDG_STATE_HOME": self.path("state"),
+            "XDG_RUNTIME_DIR": self.path("runtime"),
+            "XDG_SESSION_TYPE": "x11",
+            "GSETTINGS_BACKEND": "memory",
+            "GTK_THEME": "Adwaita:dark" if self.dark else "Adwaita",
+            "QT_QPA_PLATFORM": "xcb",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+        }
+        if self._scale != 1:
+            self.environment["QT_SCALE_FACTOR"] = str(self._scale)
+        os.mkdir(self.path("config/pulse"))
+        with open(self.path("config/pulse/client.conf"), "w", encoding="utf-8") as file:
+            file.write("autospawn = no\n")
+
+        self._start_x_server()
+        self._start_bus()
+        if self._wm_kind == "xfwm4":
+            self.run("xfwm4", f"--compositor={'on' if self._compositing else 'off'}", "--sm-client-disable")
+            wait_for(lambda: "window id" in self.ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
+                     what="a window manager")
+        self.start_host()
+
+    def _start_x_server(self):
+        reader, writer = os.pipe()
+        width, height = self._size
+        self.run("Xvfb", "-displayfd", str(writer), "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp",
+                 "-noreset", "-dpi", "96", "-fbdir", self.path("screen"), pass_fds=(writer,))
+        os.close(writer)
+        with os.fdopen(reader) as file:
+            if not select.select([file], [], [], 60)[0]:
+                raise AssertionError("The X server does not start")
+            self.display = ":" + file.readline().strip()
+        self.environment["DISPLAY"] = self.display
+        for index, (width, height, x, y) in enumerate(self.monitors):
+            self.ask("xrandr", "--setmonitor", f"{'*' if index == 0 else ''}M{index}",
+                     f"{width}/{width // 4}x{height}/{height // 4}+{x}+{y}", "screen" if index == 0 else "none")
+        self.ask("xsetroot", "-solid", "#2b3440" if self.dark else "#7c93ab", "-cursor_name", "left_ptr")
+
+    def _start_bus(self):
+        address = f"unix:path={self.path('runtime/bus')}"
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
+        self.run("dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address={address}")
+        self.bus = wait_for(lambda: self.connect(address), what="a session bus")
+        self.run(next(path for path in _ATSPI if os.path.exists(path)), "--launch-immediately")
+        self._accessibility = wait_for(lambda: self.connect(self.bus.call_sync(
+            "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, Gio.DBusCallFlags.NONE, 10000,
+            None).unpack()[0]), what="an accessibility bus")
+
+    def start_host(self, kind=None):
+        """Starts the panel bar and returns once it takes status items."""
+        kind = kind or self._host_kind
+        if kind == "none":
+            return
+        self._host_in_use = HOSTS[kind]
+        self.host = self._host_in_use.start(self)
+        wait_for(lambda: self._has_owner("org.kde.StatusNotifierWatcher"), what="a host of status items")
+
+    def stop_host(self):
+        """Kills the panel bar, with everything it started."""
+        os.killpg(self.host.pid, signal.SIGKILL)
+        self.host.wait()
+        wait_for(lambda: not self._has_owner("org.kde.StatusNotifierWatcher"), what="the host's end")
+
+    @property
+    def item_rectangle(self):
+        """Where the program's item stands in the panel bar; LookupError while it is not there."""
+        return self._host_in_use.item_rectangle(self)
+
+    def _has_owner(self, name):
+        return self.bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+                                  "NameHasOwner", GLib.Variant("(s)", (name,)), None, Gio.DBusCallFlags.NONE, 10000,
+                                  None).unpack()[0]
+
+    # Programs
+
+    def path(self, name):
+        return os.path.join(self.folder, name)
+
+    @property
+    def settings_file(self):
+        return self.path("config/velto/defaults.plist")
+
+    def connect(self, address):
+        """A bus connection of its own."""
+        return Gio.DBusConnection.new_for_address_sync(
+            address, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION,
+            None, None)
+
+    def run(self, *command, output=None, environment=None, pass_fds=()):
+        """Starts a program on the desktop, in a process group of its own; it ends with the desktop."""
+        log = None if self._verbose else open(self.path(f"log/{os.path.basename(command[0])}.log"), "ab")
+        out = open(output, "wb") if output else log
+        process = subprocess.Popen(command, env=self.environment | (environment or {}), cwd=self.path("home"),
+                                   stdin=subprocess.DEVNULL, stdout=out, stderr=log, start_new_session=True,
+                                   pass_fds=pass_fds)
+        self._processes.append(process)
+        for file in {log, out} - {None}:
+            file.close()
+        return process
+
+    def ask(self, *command):
+        """Runs a program to its end and returns what it printed."""
+        return subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                              stderr=subprocess.STDOUT, timeout=60, check=True).stdout.decode()
+
+    def start_velto(self, defaults=None, environment=None, ready=True):
+        """Starts the program: VELTO_BIN, else the release build. `defaults` becomes its settings file (None:
+        the one there is stays), without the first-launch welcome unless it sets hasLaunchedBefore itself.
+        Returns when its status item is exported, at once when not `ready`."""
+        if defaults is not None:
+            os.makedirs(os.path.dirname(self.settings_file), 0o700, exist_ok=True)
+            with open(self.settings_file, "wb") as file:
+                plistlib.dump({"hasLaunchedBefore": True} | defaults, file)
+        program = os.environ.get("VELTO_BIN", os.path.join(_ROOT, "build/release/bin/velto"))
+        output = tempfile.mktemp(prefix="velto-", suffix=".out", dir=self.path("log"))
+        velto = Velto(self, self.run(program, output=output, environment=environment), output)
+        if ready:
+            def exported():
+                if velto.process.poll() is not None:
+                    raise AssertionError(f"velto ended with {velto.process.returncode}: {self.log('velto')}")
+                return velto.item
+            wait_for(exported, what="the status item")
+        return velto
+
+    def open_window(self, title):
+        """Opens another program's window with a text field, and returns the field once it has the focus."""
+        process = self.run("/usr/bin/python3", os.path.join(_HERE, "text_window.py"), title)
+        field = wait_for(lambda: self.application(process.pid).find("text"), what=f"the window {title!r}")
+        wait_for(lambda: field.has_state("focused"), what=f"the focus in {title!r}")
+        return field
+
+    def log(self, program):
+        """What `program` wrote on standard error so far."""
+        with open(self.path(f"log/{program}.log"), encoding="utf-8", errors="replace") as file:
+            return file.read()
+
+    def application(self, pid):
+        """The accessibility tree of process `pid`; LookupError without one."""
+        for application in accessibility.applications(self._accessibility):
+            if accessibility.process_of(self._accessibility, application) == pid:
+                return application
+        raise LookupError(f"process {pid} is not accessible")
+
+    # Eyes and hands
+
+    def picture(self):
+        return framebuffer.read_picture(self.path("screen/Xvfb_screen0"))
+
+    def screenshot(self, path):
+        self.picture().save(path)
+
+    def move(self, x, y):
+        self.ask("xdotool", "mousemove", str(x), str(y))
+
+    def click(self, x, y, button=1, modifiers=()):
+        """A real click at a place on the screen, in pixels, with keys such as "ctrl" held down."""
+        command = ["xdotool", "mousemove", str(x), str(y)]
+        for key in modifiers:
+            command += ["keydown", key]
+        command += ["click", str(button)]
+        for key in modifiers:
+            command += ["keyup", key]
+        self.ask(*command)
+
+    def press(self, x, y, button=1):
+        self.ask("xdotool", "mousemove", str(x), str(y), "mousedown", str(button))
+
+    def release(self, button=1):
+        self.ask("xdotool", "mouseup", str(button))
+
+    def type(self, text):
+        self.ask("xdotool", "type", "--delay", "10", text)
+
+    def key(self, *keys):
+        """Such as "Return" or "ctrl+a"."""
+        self.ask("xdotool", "key", *keys)
+
+    @property
+    def focused_window(self):
+        """The X window that the window manager gave the focus."""
+        return self.ask("xprop", "-root", "-notype", "_NET_ACTIVE_WINDOW").split("#")[-1].strip()

@@ -1,0 +1,93 @@
+# SPDX-License-Identifier: MIT
+"""The panel bars that a virtual desktop can have."""
+import os
+import re
+
+_HERE = os.path.dirname(os.path.abspath(__file__))
+
+_XFCE = """<?xml version="1.0" encoding="UTF-8"?>
+<channel name="xfce4-panel" version="1.0">
+  <property name="configver" type="int" value="2"/>
+  <property name="panels" type="array">
+    <value type="int" value="1"/>
+    <property name="dark-mode" type="bool" value="{dark}"/>
+    <property name="panel-1" type="empty">
+      <property name="position" type="string" value="p=6;x=0;y=0"/>
+      <property name="output-name" type="string" value="{output}"/>
+      <property name="length" type="uint" value="100"/>
+      <property name="position-locked" type="bool" value="true"/>
+      <property name="size" type="uint" value="28"/>
+      <property name="plugin-ids" type="array">
+        <value type="int" value="1"/>
+        <value type="int" value="2"/>
+        <value type="int" value="3"/>
+        <value type="int" value="4"/>
+      </property>
+    </property>
+  </property>
+  <property name="plugins" type="empty">
+    <property name="plugin-1" type="string" value="tasklist"/>
+    <property name="plugin-2" type="string" value="separator">
+      <property name="expand" type="bool" value="true"/>
+      <property name="style" type="uint" value="0"/>
+    </property>
+    <property name="plugin-3" type="string" value="systray">
+      <property name="square-icons" type="bool" value="true"/>
+      <property name="icon-size" type="int" value="0"/>
+    </property>
+    <property name="plugin-4" type="string" value="clock">
+      <property name="digital-layout" type="uint" value="3"/>
+      <property name="digital-time-format" type="string" value="%H:%M"/>
+      <property name="digital-time-font" type="string" value="Sans 9"/>
+    </property>
+  </property>
+</channel>
+"""
+
+
+def _windows(desktop, wm_class):
+    """(x, y, width, height) of every window of that class, on the screen or not."""
+    pattern = re.compile(rf'\("{re.escape(wm_class)}" .*\)  (\d+)x(\d+)\+-?\d+\+-?\d+  \+(-?\d+)\+(-?\d+)')
+    for match in pattern.finditer(desktop.ask("xwininfo", "-root", "-tree")):
+        width, height, x, y = map(int, match.groups())
+        yield x, y, width, height
+
+
+class XfcePanel:
+    """The XFCE panel at the top of the main monitor. Shows square pictures, activates on release."""
+
+    def start(self, desktop):
+        folder = desktop.path("config/xfce4/xfconf/xfce-perchannel-xml")
+        os.makedirs(folder, exist_ok=True)
+        with open(os.path.join(folder, "xfce4-panel.xml"), "w", encoding="utf-8") as file:
+            file.write(_XFCE.format(dark=str(desktop.dark).lower(),
+                                    output="monitor-0" if desktop.monitors else "Automatic"))
+        return desktop.run("xfce4-panel", "--disable-wm-check", "--sm-client-disable")
+
+    def item_rectangle(self, desktop):
+        # The plug-in of the status items is a process of its own; it takes no room while it has no item.
+        for x, y, width, height in _windows(desktop, "wrapper-2.0"):
+            if x >= 0 and y >= 0 and width > 16 and height > 16:
+                return x, y, width, height
+        raise LookupError("no status item in the panel bar")
+
+
+class PlainBar:
+    """A bar of our own at the top of the screen that shows labels and activates on press or on release."""
+
+    def __init__(self, activate_on):
+        self._activate_on = activate_on
+
+    def start(self, desktop):
+        return desktop.run("/usr/bin/python3", os.path.join(_HERE, "plain_bar.py"), self._activate_on)
+
+    def item_rectangle(self, desktop):
+        bar = desktop.application(desktop.host.pid)
+        return bar.find("label", "velto").rectangle
+
+
+HOSTS = {
+    "xfce": XfcePanel(),
+    "press": PlainBar("press"),
+    "release": PlainBar("release"),
+}

@@ -1,0 +1,22 @@
+# SPDX-License-Identifier: MIT
+"""Waiting for a condition, never for time."""
+import time
+
+from gi.repository import GLib
+
+
+def wait_for(condition, timeout=30, what=None):
+    """Asks `condition` until it answers something true, and returns that. A LookupError or a D-Bus
+    error counts as "not yet". Fails with an AssertionError that names `what` after `timeout` seconds."""
+    give_up = time.monotonic() + timeout
+    last = None
+    while True:
+        try:
+            last = condition()
+            if last:
+                return last
+        except (LookupError, GLib.Error) as error:
+            last = error
+        if time.monotonic() > give_up:
+            raise AssertionError(f"Not within {timeout} s: {what or condition.__name__}; last: {last!r}")
+        time.sleep(0.02)
