@@ -148,12 +148,13 @@ class VirtualDesktop:
             "XDG_RUNTIME_DIR": self.path("runtime"),
             "XDG_SESSION_TYPE": "x11",
             "GSETTINGS_BACKEND": "memory",
-            "GTK_THEME": "Adwaita:dark" if self.dark else "Adwaita",
             "QT_QPA_PLATFORM": "xcb",
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
         }
         if self._scale != 1:
             self.environment["QT_SCALE_FACTOR"] = str(self._scale)
+        if self.dark:
+            self.environment["GTK_THEME"] = "Adwaita:dark"
         os.mkdir(self.path("config/pulse"))
         with open(self.path("config/pulse/client.conf"), "w", encoding="utf-8") as file:
             file.write("autospawn = no\n")
@@ -191,6 +192,8 @@ class VirtualDesktop:
         self._accessibility = wait_for(lambda: self.connect(self.bus.call_sync(
             "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, Gio.DBusCallFlags.NONE, 10000,
             None).unpack()[0]), what="an accessibility bus")
+        self.run("/usr/bin/python3", os.path.join(_HERE, "portal.py"), "1" if self.dark else "2")
+        wait_for(lambda: self._has_owner("org.freedesktop.portal.Desktop"), what="the settings portal")
 
     def start_host(self, kind=None):
         """Starts the panel bar and returns once it takes status items."""
@@ -267,6 +270,13 @@ class VirtualDesktop:
                 return velto.item
             wait_for(exported, what="the status item")
         return velto
+
+    def change_setting(self, namespace, key, value):
+        """Turns a setting of the desktop: ("org.freedesktop.appearance", "color-scheme", GLib.Variant("u", 1))
+        makes it dark."""
+        self.bus.call_sync("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop", "org.velto.Test",
+                           "Change", GLib.Variant("(ssv)", (namespace, key, value)), None, Gio.DBusCallFlags.NONE,
+                           10000, None)
 
     def open_window(self, title):
         """Opens another program's window with a text field, and returns the field once it has the focus."""

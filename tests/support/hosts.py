@@ -10,7 +10,7 @@ _XFCE = """<?xml version="1.0" encoding="UTF-8"?>
   <property name="configver" type="int" value="2"/>
   <property name="panels" type="array">
     <value type="int" value="1"/>
-    <property name="dark-mode" type="bool" value="{dark}"/>
+    <property name="dark-mode" type="bool" value="true"/>
     <property name="panel-1" type="empty">
       <property name="position" type="string" value="p=6;x=0;y=0"/>
       <property name="output-name" type="string" value="{output}"/>
@@ -60,8 +60,7 @@ class XfcePanel:
         folder = desktop.path("config/xfce4/xfconf/xfce-perchannel-xml")
         os.makedirs(folder, exist_ok=True)
         with open(os.path.join(folder, "xfce4-panel.xml"), "w", encoding="utf-8") as file:
-            file.write(_XFCE.format(dark=str(desktop.dark).lower(),
-                                    output="monitor-0" if desktop.monitors else "Automatic"))
+            file.write(_XFCE.format(output="monitor-0" if desktop.monitors else "Automatic"))
         return desktop.run("xfce4-panel", "--disable-wm-check", "--sm-client-disable")
 
     def item_rectangle(self, desktop):
@@ -79,7 +78,10 @@ class PlainBar:
         self._activate_on = activate_on
 
     def start(self, desktop):
-        return desktop.run("/usr/bin/python3", os.path.join(_HERE, "plain_bar.py"), self._activate_on)
+        program = desktop.path("budgie-panel")  # a name that is known for showing labels
+        if not os.path.exists(program):
+            os.symlink("/usr/bin/python3", program)
+        return desktop.run(program, os.path.join(_HERE, "plain_bar.py"), self._activate_on)
 
     def item_rectangle(self, desktop):
         bar = desktop.application(desktop.host.pid)
