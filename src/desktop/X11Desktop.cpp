@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/X11Desktop.h"
+
+#include <QGuiApplication>
+
+#include <cstdlib>
+#include <memory>
+
+namespace velto::x11 {
+
+namespace {
+
+struct Free {
+    void operator()(void* reply) const { std::free(reply); }
+};
+
+template <class Reply>
+std::unique_ptr<Reply, Free> owned(Reply* reply)
+{
+    return std::unique_ptr<Reply, Free>{reply};
+}
+
+} // namespace
+
+xcb_connection_t* connection()
+{
+    const auto* native = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+    return native ? native->connection() : nullptr;
+}
+
+xcb_window_t rootWindow()
+{
+    return xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
+}
+
+xcb_atom_t atom(std::string_view name)
+{
+    const auto cookie = xcb_intern_atom(connection(), 0, static_cast<std::uint16_t>(name.size()), name.data());
+    const auto reply = owned(xcb_intern_atom_reply(connection(), cookie, nullptr));
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+std::vector<std::uint32_t> property(xcb_window_t window, xcb_atom_t name)
+{
+    constexpr std::uint32_t maximumLength = 16384;
+    const auto cookie = xcb_get_property(connection(), 0, window, name, XCB_ATOM_ANY, 0, maximumLength);
+    const auto reply = owned(xcb_get_property_reply(connection(), cookie, nullptr));
+    if (!reply || reply->format != 32)
+        return {};
+    const auto* items = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+    return {items, items + reply->value_len};
+}
+
+void setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t type, const std::vector<std::uint32_t>& items)
+{
+    xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, window, name, type, 32,
+        static_cast<std::uint32_t>(items.size()), items.data());
+}
+
+std::optional<xcb_window_t> outermost(xcb_window_t window)
+{
+    for (;;) {
+        const auto reply = owned(xcb_query_tree_reply(connection(), xcb_query_tree(connection(), window), nullptr));
+        if (!reply)
+            return std::nullopt;
+        if (reply->parent == reply->root || reply->parent == XCB_WINDOW_NONE)
+            return window;
+        window = reply->parent;
+    }
+}
+
+} // namespace velto::x11
