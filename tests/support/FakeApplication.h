@@ -5,9 +5,11 @@
 
 #include <functional>
 
-namespace velto {
+namespace velto
+{
 
-class FakeApplication final : public Application {
+class FakeApplication final : public Application
+{
 public:
     void activate() override
     {

@@ -7,9 +7,11 @@
 #include <map>
 #include <string>
 
-namespace velto {
+namespace velto
+{
 
-class FakeBundle final : public Bundle {
+class FakeBundle final : public Bundle
+{
 public:
     std::optional<std::string> string(std::string_view key) const override
     {

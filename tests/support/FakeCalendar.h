@@ -3,9 +3,11 @@
 
 #include "platform/Calendar.h"
 
-namespace velto {
+namespace velto
+{
 
-class FakeCalendar final : public Calendar {
+class FakeCalendar final : public Calendar
+{
 public:
     int currentYear() const override { return year; }
 

@@ -4,9 +4,11 @@
 
 #include <gtest/gtest.h>
 
-namespace velto {
+namespace velto
+{
 
-namespace {
+namespace
+{
 
 TEST(AboutWindowControllerTest, MakesItsWindowOnFirstAccessAndKeepsIt)
 {

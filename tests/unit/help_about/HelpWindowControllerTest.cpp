@@ -9,13 +9,16 @@
 #include <string>
 #include <vector>
 
-namespace velto {
+namespace velto
+{
 
-namespace {
+namespace
+{
 
 constexpr auto launchedBefore = "hasLaunchedBefore";
 
-class HelpWindowControllerTest : public testing::Test {
+class HelpWindowControllerTest : public testing::Test
+{
 protected:
     HelpWindowControllerTest()
     {
