@@ -5,11 +5,9 @@
 
 #include <functional>
 
-namespace velto
-{
+namespace velto {
 
-class FakeApplication final : public Application
-{
+class FakeApplication final : public Application {
 public:
     void activate() override
     {

@@ -7,11 +7,9 @@
 #include <map>
 #include <string>
 
-namespace velto
-{
+namespace velto {
 
-class FakeBundle final : public Bundle
-{
+class FakeBundle final : public Bundle {
 public:
     std::optional<std::string> string(std::string_view key) const override
     {

@@ -3,11 +3,9 @@
 
 #include "platform/Calendar.h"
 
-namespace velto
-{
+namespace velto {
 
-class FakeCalendar final : public Calendar
-{
+class FakeCalendar final : public Calendar {
 public:
     int currentYear() const override { return year; }
 

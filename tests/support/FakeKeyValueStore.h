@@ -6,13 +6,13 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
-namespace velto
-{
+namespace velto {
 
-/// Values in memory.
-class FakeKeyValueStore final : public KeyValueStore
-{
+/// Values in memory, and every write in order.
+class FakeKeyValueStore final : public KeyValueStore {
 public:
     std::optional<StoredValue> object(std::string_view key) const override
     {
@@ -22,14 +22,14 @@ public:
 
     void set(std::string_view key, StoredValue value) override
     {
+        writes.emplace_back(key, value);
         values.insert_or_assign(std::string(key), std::move(value));
-        ++writes;
         if (onWrite)
             onWrite();
     }
 
     std::map<std::string, StoredValue, std::less<>> values;
-    int writes = 0;
+    std::vector<std::pair<std::string, StoredValue>> writes;
     std::function<void()> onWrite; ///< Runs after each write; may be empty.
 };
 

@@ -6,12 +6,10 @@
 #include <functional>
 #include <utility>
 
-namespace velto
-{
+namespace velto {
 
 /// A window that only says when it is brought to the front.
-class FakeWindow final : public Window
-{
+class FakeWindow final : public Window {
 public:
     explicit FakeWindow(std::function<void()> onFront = {}) : m_onFront(std::move(onFront)) { }
 

@@ -5,12 +5,10 @@
 
 #include <vector>
 
-namespace velto
-{
+namespace velto {
 
 /// Remembers what it was asked to open.
-class FakeWorkspace final : public Workspace
-{
+class FakeWorkspace final : public Workspace {
 public:
     void open(const std::string& url) override { opened.push_back(url); }
 

@@ -4,20 +4,16 @@
 
 #include <gtest/gtest.h>
 
-namespace velto
-{
+namespace velto {
 
-namespace
-{
+namespace {
 
 struct VersionCase {
     std::map<std::string, std::string, std::less<>> bundle;
     std::string text;
 };
 
-class VersionStringTest : public testing::TestWithParam<VersionCase>
-{
-};
+class VersionStringTest : public testing::TestWithParam<VersionCase> { };
 
 TEST_P(VersionStringTest, NamesTheVersionAndTheBuildThatThereAre)
 {

@@ -4,11 +4,9 @@
 
 #include <gtest/gtest.h>
 
-namespace velto
-{
+namespace velto {
 
-namespace
-{
+namespace {
 
 TEST(AboutWindowControllerTest, MakesItsWindowOnFirstAccessAndKeepsIt)
 {

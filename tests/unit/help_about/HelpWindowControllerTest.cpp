@@ -9,16 +9,13 @@
 #include <string>
 #include <vector>
 
-namespace velto
-{
+namespace velto {
 
-namespace
-{
+namespace {
 
 constexpr auto launchedBefore = "hasLaunchedBefore";
 
-class HelpWindowControllerTest : public testing::Test
-{
+class HelpWindowControllerTest : public testing::Test {
 protected:
     HelpWindowControllerTest()
     {

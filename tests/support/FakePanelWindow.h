@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/PanelWindow.h"
+
+namespace velto {
+
+class FakePanelWindow final : public PanelWindow {
+public:
+    bool isVisible() const override { return visible; }
+    void setFrame(const Rect& newFrame) override
+    {
+        frame = newFrame;
+        ++placements;
+    }
+    void orderFrontRegardless() override
+    {
+        visible = true;
+        ++fronts;
+    }
+    void orderOut() override
+    {
+        visible = false;
+        ++outs;
+    }
+
+    bool visible = false;
+    Rect frame;
+    int placements = 0;
+    int fronts = 0;
+    int outs = 0;
+};
+
+} // namespace velto
