@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "style/Colors.h"
+
+#include <QDBusConnection>
+#include <QDBusVariant>
+#include <QObject>
+#include <QPalette>
+#include <QVariantMap>
+
+#include <map>
+
+namespace velto {
+
+/// Makes the application look as the desktop wishes: light or dark, plain or high contrast, with or
+/// without motion, in the size of its font, now and whenever the wish changes.
+///
+/// The desktop's settings portal is asked first, without waiting for it; what it leaves open follows
+/// the palette that the desktop gave the application. One object, created right after the application
+/// and living as long. Views read the outcome from their palette and from `mayAnimate`.
+class Appearance : public QObject {
+    Q_OBJECT
+
+public:
+    /// `bus` is where the portal lives; one that is not connected has none.
+    explicit Appearance(const QDBusConnection& bus = QDBusConnection::sessionBus());
+
+    [[nodiscard]] Theme theme() const;
+    [[nodiscard]] bool reducesMotion() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private slots:
+    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+
+private:
+    void askPortal(QDBusConnection bus);
+    [[nodiscard]] QVariant setting(const char* group, const char* key) const;
+    void apply();
+
+    QPalette m_desktopPalette;
+    bool m_isApplying = false;
+    std::map<QString, QVariantMap> m_settings;
+};
+
+} // namespace velto

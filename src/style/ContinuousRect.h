@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPainterPath>
+#include <QRectF>
+
+namespace velto {
+
+/// A rectangle whose edges bend into its corners without a jump in curvature: the corners are
+/// superellipses that meet the diagonal where a circular arc of `radius` would. Large radii are
+/// limited by the shorter side.
+[[nodiscard]] QPainterPath continuousRoundedRect(const QRectF& rect, double radius);
+
+} // namespace velto

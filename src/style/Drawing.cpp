@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "style/Drawing.h"
+
+#include "style/ContinuousRect.h"
+
+#include <QFontMetricsF>
+#include <QWidget>
+
+#include <cmath>
+
+namespace velto {
+
+int controlHeight(const QWidget& widget)
+{
+    return widget.fontMetrics().height() + 12;
+}
+
+bool showsFocus(const QWidget& widget)
+{
+    return widget.hasFocus() && widget.window()->testAttribute(Qt::WA_KeyboardFocusChange);
+}
+
+void drawFocusRing(QPainter& painter, const QRectF& rect, double radius, const QColor& color)
+{
+    painter.setPen(QPen(color, 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPath(continuousRoundedRect(rect.adjusted(1, 1, -1, -1), radius - 1));
+}
+
+void drawBezel(QPainter& painter, const QRectF& rect, double radius, const QColor& face, const QColor& outline)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(face);
+    painter.drawPath(continuousRoundedRect(rect, radius));
+    if (!outline.isValid())
+        return;
+    painter.setPen(QPen(outline, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPath(continuousRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5));
+}
+
+void drawLine(QPainter& painter, const QRectF& rect, Qt::Alignment horizontally, const QString& text)
+{
+    const QFontMetricsF metrics(painter.font());
+    const auto shown = metrics.elidedText(text, Qt::ElideRight, std::ceil(rect.width()));
+    const double width = metrics.horizontalAdvance(shown);
+    double x = rect.left();
+    if (horizontally & Qt::AlignHCenter)
+        x = rect.center().x() - width / 2;
+    else if (horizontally & Qt::AlignRight)
+        x = rect.right() - width;
+    painter.drawText(QPointF(x, std::round(rect.center().y() + metrics.capHeight() / 2)), shown);
+}
+
+} // namespace velto

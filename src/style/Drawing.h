@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "style/Colors.h"
+
+#include <QPainter>
+#include <QRectF>
+#include <QString>
+
+class QWidget;
+
+namespace velto {
+
+/// How strongly a control that is disabled shows.
+inline constexpr double disabledOpacity = 0.4;
+
+/// The height of a control around one line of `widget`'s text.
+[[nodiscard]] int controlHeight(const QWidget& widget);
+
+/// Whether the keyboard's user should see that `widget` has the focus.
+[[nodiscard]] bool showsFocus(const QWidget& widget);
+
+/// Marks the focus just inside `rect`, whose corners have `radius`.
+void drawFocusRing(QPainter& painter, const QRectF& rect, double radius, const QColor& color);
+
+/// The rounded face of a control with a thin edge, if `outline` is valid.
+void drawBezel(QPainter& painter, const QRectF& rect, double radius, const QColor& face, const QColor& outline = {});
+
+/// One line whose capital letters stand in the vertical middle of `rect`; too long a line ends in dots.
+void drawLine(QPainter& painter, const QRectF& rect, Qt::Alignment horizontally, const QString& text);
+
+} // namespace velto

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "style/TextField.h"
+
+#include "style/Colors.h"
+#include "style/Drawing.h"
+#include "style/TextStyle.h"
+
+#include <QEvent>
+#include <QPainter>
+
+namespace velto {
+
+namespace {
+
+constexpr double cornerRadius = 7;
+constexpr int textMargin = 6;
+
+} // namespace
+
+TextField::TextField(const QString& placeholder)
+{
+    setPlaceholderText(placeholder);
+    setAccessibleName(placeholder);
+    setFont(textFont(TextStyle::body));
+    setFrame(false);
+    setTextMargins(textMargin, 0, textMargin, 0);
+    auto clear = palette();
+    clear.setColor(QPalette::Base, Qt::transparent);
+    setPalette(clear);
+}
+
+QSize TextField::sizeHint() const
+{
+    return {QLineEdit::sizeHint().width(), controlHeight(*this)};
+}
+
+QSize TextField::minimumSizeHint() const
+{
+    return {QLineEdit::minimumSizeHint().width(), controlHeight(*this)};
+}
+
+bool TextField::event(QEvent* event)
+{
+    if (event->type() == QEvent::ApplicationFontChange)
+        setFont(textFont(TextStyle::body));
+    return QLineEdit::event(event);
+}
+
+void TextField::paintEvent(QPaintEvent* event)
+{
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        if (!isEnabled())
+            painter.setOpacity(disabledOpacity);
+        drawBezel(
+            painter, rect(), cornerRadius, color(ColorName::field, *this), color(ColorName::controlOutline, *this));
+        if (hasFocus())
+            drawFocusRing(painter, rect(), cornerRadius, color(ColorName::accent, *this));
+    }
+    QLineEdit::paintEvent(event);
+}
+
+} // namespace velto

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "style/TextLabel.h"
+
+#include <QEvent>
+
+#include <algorithm>
+
+namespace velto {
+
+TextLabel::TextLabel(const QString& text, TextStyle style, ColorName color, QFont::Weight weight) :
+    QLabel(text),
+    m_style(style),
+    m_color(color),
+    m_weight(weight)
+{
+    setTextFormat(Qt::PlainText);
+    applyStyle();
+}
+
+bool TextLabel::event(QEvent* event)
+{
+    const bool isHandled = QLabel::event(event);
+    if (event->type() == QEvent::ApplicationFontChange || event->type() == QEvent::PaletteChange)
+        applyStyle();
+    return isHandled;
+}
+
+void TextLabel::applyStyle()
+{
+    auto wantedFont = textFont(m_style);
+    wantedFont.setWeight(std::max(wantedFont.weight(), m_weight));
+    if (font() != wantedFont)
+        setFont(wantedFont);
+    const auto wantedColor = color(m_color, *this);
+    if (palette().color(QPalette::Active, QPalette::WindowText) != wantedColor) {
+        auto ownPalette = palette();
+        ownPalette.setColor(QPalette::WindowText, wantedColor);
+        setPalette(ownPalette);
+    }
+}
+
+} // namespace velto

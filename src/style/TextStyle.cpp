@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "style/TextStyle.h"
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace velto {
+
+namespace {
+
+constexpr double pixelsPerPoint = 96.0 / 72.0;
+constexpr double usualPixels = 10 * pixelsPerPoint;
+
+QString roundedFamily()
+{
+    const auto installed = QFontDatabase::families();
+    for (const auto* family : {"Quicksand", "Nunito", "M PLUS Rounded 1c", "Varela Round", "Comfortaa"})
+        if (installed.contains(QLatin1String(family)))
+            return QLatin1String(family);
+    return {};
+}
+
+} // namespace
+
+double textScale(const QFont& desktopFont)
+{
+    const double pixels
+        = desktopFont.pixelSize() > 0 ? desktopFont.pixelSize() : desktopFont.pointSizeF() * pixelsPerPoint;
+    return std::clamp(pixels / usualPixels, 1.0, 1.25);
+}
+
+double pixelSize(TextStyle style, double scale)
+{
+    switch (style) {
+    case TextStyle::title:
+        return 22 * scale;
+    case TextStyle::title2:
+        return 17 * scale;
+    case TextStyle::headline:
+    case TextStyle::body:
+        return 13 * scale;
+    case TextStyle::subheadline:
+        return 11 * scale;
+    case TextStyle::footnote:
+    case TextStyle::caption:
+        break;
+    }
+    return 10 * scale;
+}
+
+QFont textFont(TextStyle style)
+{
+    auto font = QGuiApplication::font();
+    font.setPixelSize(static_cast<int>(std::lround(pixelSize(style, textScale(font)))));
+    font.setWeight(style == TextStyle::headline ? QFont::DemiBold : QFont::Normal);
+    return font;
+}
+
+QFont clockFont(double pixels)
+{
+    static const QString rounded = roundedFamily();
+    auto font = QGuiApplication::font();
+    if (!rounded.isEmpty())
+        font.setFamilies({rounded, font.family()});
+    font.setPixelSize(static_cast<int>(std::lround(pixels)));
+    font.setWeight(QFont::DemiBold);
+    return font;
+}
+
+} // namespace velto

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "style/ToggleSwitch.h"
+
+#include "style/Colors.h"
+#include "style/Drawing.h"
+#include "style/Motion.h"
+#include "style/TextStyle.h"
+
+#include <QEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace velto {
+
+namespace {
+
+constexpr QSize trackSize(38, 22);
+constexpr double knobInset = 2;
+constexpr int gap = 10;
+constexpr int knobDuration = 180;
+
+} // namespace
+
+ToggleSwitch::ToggleSwitch(const QString& title) : QCheckBox(title)
+{
+    setFont(textFont(TextStyle::body));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_knob.setDuration(knobDuration);
+    m_knob.setEasingCurve(QEasingCurve::OutCubic);
+    moveKnob(false);
+    connect(this, &QAbstractButton::toggled, this, &ToggleSwitch::moveKnob);
+    connect(&m_knob, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
+}
+
+QSize ToggleSwitch::sizeHint() const
+{
+    const int textWidth = text().isEmpty() ? 0 : fontMetrics().horizontalAdvance(text()) + gap;
+    return {textWidth + trackSize.width(), std::max(trackSize.height(), fontMetrics().height()) + 2};
+}
+
+bool ToggleSwitch::event(QEvent* event)
+{
+    if (event->type() == QEvent::ApplicationFontChange)
+        setFont(textFont(TextStyle::body));
+    else if (event->type() == QEvent::Hide)
+        m_knob.setCurrentTime(m_knob.duration());
+    return QCheckBox::event(event);
+}
+
+void ToggleSwitch::paintEvent(QPaintEvent*)
+{
+    const double position = m_knob.currentValue().toDouble();
+    const bool isRightToLeft = layoutDirection() == Qt::RightToLeft;
+    const QRectF track(isRightToLeft ? 0 : width() - trackSize.width(), (height() - trackSize.height()) / 2.0,
+        trackSize.width(), trackSize.height());
+    const double radius = track.height() / 2;
+
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!isEnabled())
+        painter.setOpacity(disabledOpacity);
+    painter.setPen(color(ColorName::label, *this));
+    const auto textRect = isRightToLeft ? QRectF(track.right() + gap, 0, width() - track.right() - gap, height())
+                                        : QRectF(0, 0, track.left() - gap, height());
+    drawLine(painter, textRect, isRightToLeft ? Qt::AlignRight : Qt::AlignLeft, text());
+
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(mixed(color(ColorName::controlOutline, *this), color(ColorName::accent, *this), position));
+    painter.drawRoundedRect(track, radius, radius);
+
+    const double diameter = track.height() - 2 * knobInset;
+    const double travel = track.width() - 2 * knobInset - diameter;
+    const double along = travel * (isRightToLeft ? 1 - position : position);
+    const QRectF knob(track.left() + knobInset + along, track.top() + knobInset, diameter, diameter);
+    painter.setBrush(color(ColorName::knob, *this));
+    painter.drawEllipse(knob);
+
+    if (showsFocus(*this)) {
+        painter.setPen(QPen(color(ColorName::label, *this), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(track.adjusted(1, 1, -1, -1), radius - 1, radius - 1);
+    }
+}
+
+void ToggleSwitch::moveKnob(bool isOn)
+{
+    const auto from = m_knob.currentValue().isValid() ? m_knob.currentValue().toDouble() : 0.0;
+    m_knob.stop();
+    m_knob.setStartValue(from);
+    m_knob.setEndValue(isOn ? 1.0 : 0.0);
+    if (mayAnimate(*this))
+        m_knob.start();
+    else
+        m_knob.setCurrentTime(m_knob.duration());
+    update();
+}
+
+} // namespace velto

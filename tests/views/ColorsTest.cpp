@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "style/Colors.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+namespace velto {
+
+namespace {
+
+using enum ColorName;
+
+double luminance(const QColor& color)
+{
+    const auto linear = [](double channel) {
+        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& a, const QColor& b)
+{
+    const double first = luminance(a);
+    const double second = luminance(b);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+struct Pair {
+    ColorName front;
+    ColorName back;
+};
+
+class ContrastTest : public testing::TestWithParam<Theme> {
+protected:
+    void expectAtLeast(double ratio, std::initializer_list<Pair> pairs) const
+    {
+        for (const auto& [front, back] : pairs)
+            EXPECT_GE(contrast(color(front, GetParam()), color(back, GetParam())), ratio)
+                << "front " << static_cast<int>(front) << " on " << static_cast<int>(back) << " in theme "
+                << static_cast<int>(GetParam());
+    }
+};
+
+TEST_P(ContrastTest, SmallTextIsReadableOnWhatLiesBehindIt)
+{
+    expectAtLeast(4.5,
+        {{label, windowBackground}, {secondaryLabel, windowBackground}, {tertiaryLabel, windowBackground},
+            {label, control}, {red, control}, {label, field}, {tertiaryLabel, field}});
+}
+
+TEST_P(ContrastTest, ButtonLabelsAreReadableOnTheirTint)
+{
+    expectAtLeast(4.5, {{tintedLabel, green}, {tintedLabel, orange}, {tintedLabel, red}});
+    EXPECT_GE(contrast(Qt::white, color(accent, GetParam())), 4.5);
+}
+
+TEST_P(ContrastTest, LargeTextTheRingAndFacesOfControlsStandOut)
+{
+    expectAtLeast(3,
+        {{teal, windowBackground}, {green, windowBackground}, {orange, windowBackground}, {accent, windowBackground},
+            {controlOutline, windowBackground}, {controlOutline, field}, {accent, field}, {knob, controlOutline},
+            {knob, accent}});
+}
+
+TEST_P(ContrastTest, APaletteTellsItsTheme)
+{
+    EXPECT_EQ(themeOf(paletteFor(GetParam())), GetParam());
+}
+
+TEST_P(ContrastTest, AWindowLooksTheSameWhetherActiveOrNot)
+{
+    const auto palette = paletteFor(GetParam());
+
+    EXPECT_TRUE(palette.isEqual(QPalette::Active, QPalette::Inactive));
+}
+
+INSTANTIATE_TEST_SUITE_P(Themes, ContrastTest,
+    testing::Values(Theme::light, Theme::dark, Theme::lightHighContrast, Theme::darkHighContrast));
+
+TEST(ColorsTest, HighContrastRaisesTheContrastOfText)
+{
+    const auto textContrast
+        = [](Theme theme) { return contrast(color(secondaryLabel, theme), color(windowBackground, theme)); };
+
+    EXPECT_GE(textContrast(Theme::lightHighContrast), 7);
+    EXPECT_GE(textContrast(Theme::darkHighContrast), 7);
+}
+
+TEST(ColorsTest, AForeignPaletteIsLightOrDarkByItsWindow)
+{
+    EXPECT_EQ(themeOf(QPalette(QColor(0xef, 0xef, 0xef))), Theme::light);
+    EXPECT_EQ(themeOf(QPalette(QColor(0x30, 0x30, 0x34))), Theme::dark);
+}
+
+} // namespace
+
+} // namespace velto

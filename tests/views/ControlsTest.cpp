@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+#include "style/Appearance.h"
+#include "style/Button.h"
+#include "style/PopUpPicker.h"
+#include "style/Slider.h"
+#include "style/Stack.h"
+#include "style/TextField.h"
+#include "style/TextLabel.h"
+#include "style/ToggleSwitch.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWheelEvent>
+
+namespace velto {
+
+namespace {
+
+class ControlsTest : public testing::Test {
+protected:
+    ControlsTest()
+    {
+        window.setLayout(column({.spacing = 12, .alignment = {}}, button, toggle, slider, picker, field));
+        picker->addItems({"None", "Basso", "Blow"});
+        window.show();
+        QApplication::setActiveWindow(&window);
+    }
+
+    static QAccessibleInterface& accessible(QWidget* widget) { return *QAccessible::queryAccessibleInterface(widget); }
+
+    QWidget window;
+    Button* button = new Button(ButtonKind::prominent, "Start", "play.fill", ColorName::green);
+    ToggleSwitch* toggle = new ToggleSwitch("Auto-Transition");
+    Slider* slider = new Slider(25, 120);
+    PopUpPicker* picker = new PopUpPicker("Preset");
+    TextField* field = new TextField("Custom URL");
+};
+
+TEST_F(ControlsTest, TabGoesThroughAllInOrder)
+{
+    button->setFocus();
+
+    for (QWidget* next : {static_cast<QWidget*>(toggle), static_cast<QWidget*>(slider), static_cast<QWidget*>(picker),
+             static_cast<QWidget*>(field)}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), next);
+    }
+}
+
+TEST_F(ControlsTest, AButtonIsPressedWithSpaceReturnAndEnter)
+{
+    QSignalSpy clicks(button, &QAbstractButton::clicked);
+    for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
+        QTest::keyClick(button, key);
+
+    EXPECT_EQ(clicks.count(), 3);
+}
+
+TEST_F(ControlsTest, ADisabledButtonIgnoresTheKeyboard)
+{
+    QSignalSpy clicks(button, &QAbstractButton::clicked);
+    button->setEnabled(false);
+    QTest::keyClick(button, Qt::Key_Return);
+
+    EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(ControlsTest, ASwitchFlipsWithSpaceAndAPressOnItsTitle)
+{
+    QTest::keyClick(toggle, Qt::Key_Space);
+    EXPECT_TRUE(toggle->isChecked());
+
+    QTest::mouseClick(toggle, Qt::LeftButton, {}, {3, toggle->height() / 2});
+    EXPECT_FALSE(toggle->isChecked());
+}
+
+TEST_F(ControlsTest, ASliderGoesWhereItsTrackIsPressedAndFollowsTheDrag)
+{
+    const int middle = slider->height() / 2;
+    QTest::mousePress(slider, Qt::LeftButton, {}, {slider->width() - 1, middle});
+    EXPECT_EQ(slider->value(), 120);
+    EXPECT_TRUE(slider->isSliderDown());
+
+    QTest::mouseMove(slider, {slider->width() / 2, middle});
+    EXPECT_NEAR(slider->value(), 72, 2);
+
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, {0, middle});
+    EXPECT_FALSE(slider->isSliderDown());
+}
+
+TEST_F(ControlsTest, PressingTheKnobDoesNotMoveIt)
+{
+    slider->setValue(25);
+    QTest::mousePress(slider, Qt::LeftButton, {}, {16, slider->height() / 2});
+
+    EXPECT_EQ(slider->value(), 25);
+}
+
+TEST_F(ControlsTest, ASliderMovesByOneWithTheArrowKeys)
+{
+    slider->setValue(50);
+    QTest::keyClick(slider, Qt::Key_Right);
+    EXPECT_EQ(slider->value(), 51);
+
+    QTest::keyClick(slider, Qt::Key_Left);
+    EXPECT_EQ(slider->value(), 50);
+}
+
+TEST_F(ControlsTest, TheWheelIsLeftToWhatScrolls)
+{
+    slider->setValue(50);
+    picker->setCurrentIndex(1);
+    for (QWidget* widget : {static_cast<QWidget*>(slider), static_cast<QWidget*>(picker)}) {
+        QWheelEvent event({5, 5}, widget->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+            Qt::NoScrollPhase, false);
+        QApplication::sendEvent(widget, &event);
+        EXPECT_FALSE(event.isAccepted());
+    }
+
+    EXPECT_EQ(slider->value(), 50);
+    EXPECT_EQ(picker->currentIndex(), 1);
+}
+
+TEST_F(ControlsTest, EachSaysItsNameRoleAndState)
+{
+    EXPECT_EQ(accessible(button).text(QAccessible::Name), "Start");
+    EXPECT_EQ(accessible(button).role(), QAccessible::Button);
+    EXPECT_EQ(accessible(toggle).text(QAccessible::Name), "Auto-Transition");
+    EXPECT_EQ(accessible(toggle).role(), QAccessible::CheckBox);
+    EXPECT_FALSE(accessible(toggle).state().checked);
+    toggle->setChecked(true);
+    EXPECT_TRUE(accessible(toggle).state().checked);
+    EXPECT_EQ(accessible(slider).role(), QAccessible::Slider);
+    slider->setValue(42);
+    EXPECT_EQ(accessible(slider).valueInterface()->currentValue().toInt(), 42);
+    EXPECT_EQ(accessible(picker).text(QAccessible::Name), "None");
+    EXPECT_EQ(accessible(picker).text(QAccessible::Description), "Preset");
+    EXPECT_EQ(accessible(picker).role(), QAccessible::ComboBox);
+    EXPECT_EQ(accessible(field).text(QAccessible::Name), "Custom URL");
+    EXPECT_EQ(accessible(field).role(), QAccessible::EditableText);
+}
+
+TEST_F(ControlsTest, TheFocusOfTheKeyboardIsVisible)
+{
+    for (QWidget* widget : {static_cast<QWidget*>(button), static_cast<QWidget*>(toggle), static_cast<QWidget*>(slider),
+             static_cast<QWidget*>(picker), static_cast<QWidget*>(field)}) {
+        window.setFocus();
+        const auto without = widget->grab().toImage();
+        widget->setFocus(Qt::TabFocusReason);
+        window.setAttribute(Qt::WA_KeyboardFocusChange);
+
+        EXPECT_NE(widget->grab().toImage(), without) << widget->metaObject()->className();
+    }
+}
+
+TEST_F(ControlsTest, TextAndControlsGrowWithTheDesktopsFontWhileShown)
+{
+    const Appearance appearance{QDBusConnection("there is no such connection")};
+    const auto before = QApplication::font();
+    const int height = button->sizeHint().height();
+    TextLabel label("Volume");
+    QFont large = before;
+    large.setPointSizeF(12.5);
+    QApplication::setFont(large);
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return label.font().pixelSize() == 16; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return field->font().pixelSize() == 16; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return button->sizeHint().height() > height; }));
+
+    QApplication::setFont(before);
+}
+
+TEST_F(ControlsTest, ALabelFollowsTheThemeWhileShown)
+{
+    const auto before = QApplication::palette();
+    TextLabel label("minutes", TextStyle::body, ColorName::secondaryLabel);
+    for (const auto theme : {Theme::dark, Theme::light}) {
+        QApplication::setPalette(paletteFor(theme));
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return label.palette().color(QPalette::WindowText) == color(ColorName::secondaryLabel, theme); }));
+    }
+
+    QApplication::setPalette(before);
+}
+
+} // namespace
+
+} // namespace velto
