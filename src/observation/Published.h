@@ -4,6 +4,7 @@
 #include "observation/ObservableObject.h"
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 namespace velto {
@@ -34,8 +35,10 @@ public:
     /// `handler` gets the current value at once and every new one after it.
     Subscription changes(Handler handler) const
     {
-        auto subscription = m_changes.subscribe(handler);
-        handler(m_value);
+        // One for all calls: it may keep state.
+        const auto observer = std::make_shared<Handler>(std::move(handler));
+        auto subscription = m_changes.subscribe([observer](const T& value) { (*observer)(value); });
+        (*observer)(m_value);
         return subscription;
     }
 
