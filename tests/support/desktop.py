@@ -3,7 +3,7 @@
 
     with VirtualDesktop() as desktop:
         velto = desktop.start_velto({"focusMinutes": 1})
-        velto.button("Start").press()
+        velto.press("Start")
         wait_for(lambda: velto.item.label == "00:59")
 
 Nothing of it is shared with the machine or with another test: display, bus, home and settings are new,
@@ -12,6 +12,7 @@ Python (/usr/bin/python3) with gi.
 """
 import os
 import plistlib
+import re
 import select
 import signal
 import subprocess
@@ -25,11 +26,14 @@ import accessibility
 import framebuffer
 from hosts import HOSTS
 from status_item import StatusItem
-from waiting import wait_for
+from waiting import holds, wait_for  # noqa: F401
 
 _HERE = os.path.dirname(os.path.abspath(__file__))
 _ROOT = os.path.dirname(os.path.dirname(_HERE))
 _ATSPI = ("/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher")
+
+_TIME = re.compile(r"\d{2,}:\d\d")
+
 
 class Velto:
     """One run of the program."""
@@ -58,26 +62,51 @@ class Velto:
         return StatusItem(self.desktop.bus, self.pid)
 
     @property
-    def panel(self):
-        """The card on the screen. LookupError while it is hidden."""
-        for button in self.app.find_all("push button"):
-            if button.name in ("Start", "Pause"):
-                return button
-        raise LookupError("the panel is hidden")
+    def card(self):
+        """The timer's card on the screen. LookupError while it is hidden."""
+        for window in self.app.children:
+            if window.showing and {"Start", "Pause"} & {button.name for button in window.find_all("push button")}:
+                return window
+        raise LookupError("the card is hidden")
 
     @property
-    def panel_is_visible(self):
+    def card_is_visible(self):
         try:
-            return bool(self.panel)
-        except LookupError:
+            return bool(self.card)
+        except (LookupError, GLib.Error):
             return False
 
-    def button(self, name):
-        return wait_for(lambda: self.app.find("push button", name), what=f"a button {name!r}")
+    @property
+    def time(self):
+        """The time on the card, such as "24:59"."""
+        for found in self.card.find_all():
+            if _TIME.fullmatch(found.name):
+                return found.name
+        raise LookupError("no time on the card")
 
-    def shows(self, text):
-        """Whether something named `text` is on the screen."""
-        return bool(self.app.find_all(name=text))
+    @property
+    def phase(self):
+        """The phase on the card: "Focus" or "Break"."""
+        for found in self.card.find_all():
+            if found.name in ("Focus", "Break"):
+                return found.name
+        raise LookupError("no phase on the card")
+
+    @property
+    def controls(self):
+        """The names of the buttons on the card, from left to right."""
+        buttons = self.card.find_all("push button")
+        return [button.name for button in sorted(buttons, key=lambda button: button.rectangle[0])]
+
+    @property
+    def other_windows(self):
+        """What it shows beside the card."""
+        card = self.card if self.card_is_visible else None
+        return [window for window in self.app.children if window.showing and window != card]
+
+    def press(self, name):
+        """Presses a button of the card, without the mouse."""
+        wait_for(lambda: self.card.find("push button", name), what=f"a button {name!r}").press()
 
     @property
     def settings(self):
@@ -98,15 +127,15 @@ class Velto:
 
 
 class VirtualDesktop:
-    """See the module. `host` is the panel bar ("xfce", "none"), `monitors` a list of (width, height, x, y)
-    inside `size`, the first being the main one; `scale` the factor at which Qt draws; `dark` the colour
-    scheme that the desktop asks for."""
+    """See the module. `host` is the panel bar: one of hosts.HOSTS, or "none". `monitors` is a list of
+    (width, height, x, y) inside `size`, the first being the main one; `bar_monitor` says which has the bar.
+    `scale` is the factor at which Qt draws, `dark` the colour scheme that the desktop asks for."""
 
     def __init__(self, host="xfce", wm="xfwm4", size=(1280, 800), monitors=(), scale=1, dark=False,
-                 compositing=False, verbose=False):
+                 compositing=False, bar_monitor=0, verbose=False):
         self._host_kind, self._wm_kind, self._size = host, wm, size
         self.monitors, self._scale, self.dark, self._compositing = monitors, scale, dark, compositing
-        self._verbose = verbose
+        self.bar_monitor, self._verbose = bar_monitor, verbose
         self._processes = []
         self.host = None
 
@@ -317,6 +346,11 @@ class VirtualDesktop:
         for key in modifiers:
             command += ["keyup", key]
         self.ask(*command)
+
+    def click_item(self, button=1, modifiers=()):
+        """A real click on the program's item in the panel bar."""
+        x, y, width, height = wait_for(lambda: self.item_rectangle, what="the item in the panel bar")
+        self.click(x + width // 2, y + height // 2, button, modifiers)
 
     def press(self, x, y, button=1):
         self.ask("xdotool", "mousemove", str(x), str(y), "mousedown", str(button))

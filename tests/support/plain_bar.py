@@ -31,7 +31,7 @@ class Bar(Gtk.Window):
     def __init__(self, activate_on):
         super().__init__(title="bar", type_hint=Gdk.WindowTypeHint.DOCK)
         self._items = {}
-        self._row = Gtk.Box(spacing=8, margin_end=8, halign=Gtk.Align.END)
+        self._row = Gtk.Box(spacing=8, halign=Gtk.Align.CENTER)
         self.add(self._row)
         self.set_default_size(Gdk.Display.get_default().get_monitor(0).get_geometry().width, 28)
         self._activation = f"button-{activate_on}-event"

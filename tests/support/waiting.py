@@ -20,3 +20,12 @@ def wait_for(condition, timeout=30, what=None):
         if time.monotonic() > give_up:
             raise AssertionError(f"Not within {timeout} s: {what or condition.__name__}; last: {last!r}")
         time.sleep(0.02)
+
+
+def holds(condition, seconds, what=None):
+    """Asks `condition` for `seconds`, and fails with an AssertionError as soon as it is not true."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        if not condition():
+            raise AssertionError(f"Does not hold: {what or condition.__name__}")
+        time.sleep(0.02)

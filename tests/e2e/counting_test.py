@@ -1,0 +1,107 @@
+# SPDX-License-Identifier: MIT
+"""A person counts down on the card."""
+import unittest
+
+from desktop import VirtualDesktop, holds, wait_for
+
+
+def setUpModule():
+    global desktop
+    desktop = unittest.enterModuleContext(VirtualDesktop())
+
+
+def times_until(velto, last):
+    """Every time on the card, from now on, until it shows `last`."""
+    seen = [velto.time]
+
+    def reached():
+        time = velto.time
+        if time != seen[-1]:
+            seen.append(time)
+        return time == last
+
+    wait_for(reached, timeout=90, what=f"{last} on the card")
+    return seen
+
+
+class Counting(unittest.TestCase):
+    def setUp(self):
+        self.velto = desktop.start_velto({})
+        self.addCleanup(self.velto.kill)
+        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
+
+    def test_the_card_is_at_rest_at_launch(self):
+        self.assertEqual(self.velto.time, "25:00")
+        self.assertEqual(self.velto.phase, "Focus")
+        self.assertEqual(self.velto.controls, ["Start"])
+        self.assertTrue(self.velto.card.find_all(name="Focus: 25m  •  Break: 5m"))
+        self.assertTrue(self.velto.card.find_all(name="velto"))
+        holds(lambda: self.velto.time == "25:00", 1.5, "a timer at rest")
+
+    def test_start_counts_every_second(self):
+        desktop.click(*self.velto.card.find("push button", "Start").middle)
+
+        self.assertEqual(times_until(self.velto, "24:55"), ["25:00", "24:59", "24:58", "24:57", "24:56", "24:55"])
+
+    def test_pause_holds_and_start_goes_on_from_there(self):
+        self.velto.press("Start")
+        wait_for(lambda: self.velto.time == "24:58")
+
+        self.velto.press("Pause")
+        wait_for(lambda: self.velto.controls == ["Start", "Reset"])
+        held = self.velto.time
+        holds(lambda: self.velto.time == held, 2.5, "the time while paused")
+        minutes, seconds = map(int, held.split(":"))
+        next_time = f"{minutes:02}:{seconds - 1:02}"
+
+        self.velto.press("Start")
+        self.assertEqual(times_until(self.velto, next_time), [held, next_time])
+
+    def test_reset_returns_to_the_full_length(self):
+        self.velto.press("Start")
+        wait_for(lambda: self.velto.time == "24:58")
+
+        self.velto.press("Reset")
+
+        wait_for(lambda: self.velto.time == "25:00")
+        self.assertEqual(self.velto.controls, ["Start"])
+        holds(lambda: self.velto.time == "25:00", 1.5, "a timer that was reset")
+
+    def test_reset_of_a_paused_timer_returns_to_the_full_length(self):
+        self.velto.press("Start")
+        wait_for(lambda: self.velto.time == "24:59")
+        self.velto.press("Pause")
+
+        self.velto.press("Reset")
+
+        wait_for(lambda: self.velto.time == "25:00" and self.velto.controls == ["Start"])
+
+    def test_the_controls_take_three_forms(self):
+        self.assertEqual(self.velto.controls, ["Start"])
+
+        self.velto.press("Start")
+        wait_for(lambda: self.velto.controls == ["Pause", "Reset"])
+
+        self.velto.press("Pause")
+        wait_for(lambda: self.velto.controls == ["Start", "Reset"])
+
+        self.velto.press("Start")
+        wait_for(lambda: self.velto.controls == ["Pause", "Reset"])
+
+        self.velto.press("Reset")
+        wait_for(lambda: self.velto.controls == ["Start"])
+
+    def test_it_goes_on_counting_while_the_card_is_hidden(self):
+        self.velto.press("Start")
+        desktop.click_item()
+        wait_for(lambda: not self.velto.card_is_visible)
+        holds(lambda: not self.velto.card_is_visible, 2)
+
+        desktop.click_item()
+
+        wait_for(lambda: self.velto.card_is_visible)
+        self.assertIn(self.velto.time, [f"24:{second}" for second in range(40, 59)])
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,59 @@
+# SPDX-License-Identifier: MIT
+"""Where the card stands, on real screens."""
+import unittest
+
+from desktop import VirtualDesktop, wait_for
+
+WIDTH, HEIGHT, GAP = 360, 420, 6
+
+
+class Placement(unittest.TestCase):
+    def card_after_a_click(self, **options):
+        """The item's and the card's rectangle once a click has shown the card."""
+        self.desktop = self.enterContext(VirtualDesktop(**options))
+        velto = self.desktop.start_velto({})
+        wait_for(lambda: velto.card_is_visible, what="the card, shown at launch")
+        self.desktop.click_item()
+        wait_for(lambda: not velto.card_is_visible)
+        self.desktop.click_item()
+        return wait_for(lambda: self.desktop.item_rectangle), wait_for(lambda: velto.card).rectangle
+
+    def test_it_hangs_centred_under_the_item(self):
+        item, card = self.card_after_a_click(host="press")
+
+        self.assertEqual(card[2:], (WIDTH, HEIGHT))
+        self.assertAlmostEqual(card[0] + WIDTH / 2, item[0] + item[2] / 2, delta=1)
+        self.assertEqual(card[1], item[1] + item[3] + GAP)
+
+    def test_the_right_edge_of_the_screen_holds_it(self):
+        item, card = self.card_after_a_click(host="xfce")
+
+        self.assertGreater(item[0] + item[2] / 2 + WIDTH / 2, 1280)
+        self.assertEqual(card[0], 1280 - WIDTH)
+        self.assertAlmostEqual(card[1], item[1] + item[3] + GAP, delta=2)
+
+    def test_on_a_monitor_left_of_and_below_the_main_one_it_stays_there(self):
+        item, card = self.card_after_a_click(host="xfce", size=(2304, 1000), bar_monitor=1,
+                                             monitors=[(1280, 800, 1024, 0), (1024, 768, 0, 232)])
+
+        self.assertEqual(card[0], 1024 - WIDTH)
+        self.assertAlmostEqual(card[1], item[1] + item[3] + GAP, delta=2)
+        self.assertGreater(card[1], 232)
+
+    def test_with_the_bar_on_the_main_monitor_it_stays_there(self):
+        item, card = self.card_after_a_click(host="xfce", size=(2304, 1000),
+                                             monitors=[(1280, 800, 0, 0), (1024, 768, 1280, 232)])
+
+        self.assertEqual(card[0], 1280 - WIDTH)
+        self.assertAlmostEqual(card[1], item[1] + item[3] + GAP, delta=2)
+
+    def test_twice_the_pixels_make_the_card_twice_as_large(self):
+        item, card = self.card_after_a_click(host="xfce", scale=2, size=(1920, 1200))
+
+        self.assertEqual(card[2:], (2 * WIDTH, 2 * HEIGHT))
+        self.assertEqual(card[0], 1920 - 2 * WIDTH)
+        self.assertAlmostEqual(card[1], item[1] + item[3] + 2 * GAP, delta=4)
+
+
+if __name__ == "__main__":
+    unittest.main()

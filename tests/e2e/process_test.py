@@ -1,0 +1,90 @@
+# SPDX-License-Identifier: MIT
+"""The life of the process: one of it, and settings that outlive it."""
+import os
+import signal
+import stat
+import unittest
+
+from desktop import VirtualDesktop, holds, wait_for
+
+
+def setUpModule():
+    global desktop
+    desktop = unittest.enterModuleContext(VirtualDesktop())
+
+
+class TheProcess(unittest.TestCase):
+    def start(self, settings=None):
+        velto = desktop.start_velto(settings)
+        self.addCleanup(lambda: velto.process.poll() is not None or velto.kill())
+        wait_for(lambda: velto.card_is_visible, what="the card, shown at launch")
+        return velto
+
+    def test_a_second_launch_shows_the_card_of_the_first_and_ends_well(self):
+        velto = self.start({})
+        velto.press("Start")
+        desktop.click_item()
+        wait_for(lambda: not velto.card_is_visible)
+
+        second = desktop.start_velto(ready=False)
+
+        self.assertEqual(second.wait(), 0)
+        wait_for(lambda: velto.card_is_visible, what="the card of the first")
+        self.assertEqual(velto.controls, ["Pause", "Reset"])
+
+    def test_a_second_launch_leaves_a_visible_card(self):
+        velto = self.start({})
+
+        self.assertEqual(desktop.start_velto(ready=False).wait(), 0)
+
+        holds(lambda: velto.card_is_visible, 1)
+
+    def test_quit_ends_it_well(self):
+        velto = self.start({})
+
+        velto.item.choose("Quit")
+
+        self.assertEqual(velto.wait(), 0)
+
+    def test_settings_outlive_every_end(self):
+        for chosen_signal in (signal.SIGTERM, signal.SIGKILL, signal.SIGINT):
+            with self.subTest(signal=chosen_signal):
+                velto = self.start({"focusMinutes": 30, "ofAnotherVersion": "kept"})
+                velto.item.choose("Auto-Transition")
+                velto.item.choose("Break Duration", "15 minutes")
+                wait_for(lambda: velto.settings.get("breakMinutes") == 15)
+
+                velto.kill(chosen_signal)
+
+                self.assertEqual(velto.settings, {"hasLaunchedBefore": True, "ofAnotherVersion": "kept",
+                                                  "focusMinutes": 30, "breakMinutes": 15, "autoTransition": True})
+                velto = self.start()
+                self.assertTrue(velto.card.find_all(name="Focus: 30m  •  Break: 15m"))
+                self.assertTrue(velto.item.menu().find("Auto-Transition").checked)
+                velto.kill()
+
+    def test_the_settings_file_is_for_its_owner_only(self):
+        velto = self.start({})
+        os.remove(desktop.settings_file)
+        velto.item.choose("Auto-Transition")
+        wait_for(lambda: velto.settings.get("autoTransition"))
+
+        self.assertEqual(stat.S_IMODE(os.stat(desktop.settings_file).st_mode), 0o600)
+
+    def test_a_file_that_is_no_property_list_is_moved_aside(self):
+        self.start({}).kill()
+        with open(desktop.settings_file, "w", encoding="utf-8") as file:
+            file.write("not a property list")
+
+        velto = self.start()
+
+        self.assertEqual(velto.time, "25:00")
+        folder = os.path.dirname(desktop.settings_file)
+        aside = [name for name in os.listdir(folder) if name.startswith("defaults.plist.corrupt-")]
+        self.assertEqual(len(aside), 1)
+        with open(os.path.join(folder, aside[0]), encoding="utf-8") as file:
+            self.assertEqual(file.read(), "not a property list")
+
+
+if __name__ == "__main__":
+    unittest.main()
