@@ -3,8 +3,7 @@
 
 #include "platform/Bundle.h"
 
-namespace velto
-{
+namespace velto {
 
 std::string aboutTitle(const Bundle& bundle)
 {

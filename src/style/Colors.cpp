@@ -30,7 +30,7 @@ constexpr std::array table{
     Entry{ColorName::green, {0xff1f7d39, 0xff34d15c, 0xff0c5420, 0xff63f088}},
     Entry{ColorName::orange, {0xffb8520a, 0xffff9f2e, 0xff853600, 0xffffb861}},
     Entry{ColorName::red, {0xffb3261e, 0xffff7f78, 0xff8a0f0a, 0xffffa29c}},
-    Entry{ColorName::accent, {0xff1b66d6, 0xff2d71dc, 0xff0a3f96, 0xff3a71d6}},
+    Entry{ColorName::accent, {0xff0a6268, 0xff0c8288, 0xff064a4f, 0xff0c8288}},
 };
 
 static_assert(table.size() == static_cast<std::size_t>(ColorName::last) + 1);

@@ -11,11 +11,9 @@
 #include <cmath>
 #include <utility>
 
-namespace velto
-{
+namespace velto {
 
-namespace
-{
+namespace {
 
 constexpr double disabledOpacity = 0.4;
 
@@ -42,8 +40,7 @@ QPixmap render(const QString& name, const QSize& pixels, const QColor& color)
     return pixmap;
 }
 
-class SymbolIconEngine final : public QIconEngine
-{
+class SymbolIconEngine final : public QIconEngine {
 public:
     SymbolIconEngine(QString name, QColor color) : m_name(std::move(name)), m_color(color) { }
 

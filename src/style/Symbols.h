@@ -7,8 +7,7 @@
 class QColor;
 class QString;
 
-namespace velto
-{
+namespace velto {
 
 /// The symbol `name` in one colour, on a transparent square of `points` a side, drawn anew for each
 /// `devicePixelRatio`. Null when there is no symbol of that name.

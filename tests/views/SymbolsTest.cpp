@@ -6,11 +6,9 @@
 
 #include <gtest/gtest.h>
 
-namespace velto
-{
+namespace velto {
 
-namespace
-{
+namespace {
 
 constexpr const char* allSymbols[]
     = {"arrow.counterclockwise", "gearshape", "gearshape.fill", "info.circle", "lightbulb.fill", "music.note",
@@ -26,9 +24,7 @@ double coverage(const QImage& image)
     return sum / (image.width() * image.height());
 }
 
-class SymbolTest : public testing::TestWithParam<const char*>
-{
-};
+class SymbolTest : public testing::TestWithParam<const char*> { };
 
 TEST_P(SymbolTest, IsDrawnInTheColourAskedForAndNoOther)
 {

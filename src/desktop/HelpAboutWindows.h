@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Window.h"
+
+#include <memory>
+
+namespace velto {
+
+class Bundle;
+class Calendar;
+class Screens;
+class Workspace;
+
+// What is given must outlive the window, also one that was dropped while it is on the screen.
+
+[[nodiscard]] std::unique_ptr<Window> makeHelpWindow(const Screens& screens);
+[[nodiscard]] std::unique_ptr<Window> makeAboutWindow(
+    const Screens& screens, const Bundle& bundle, const Calendar& calendar, Workspace& workspace);
+
+} // namespace velto

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QScrollBar>
+
+namespace velto {
+
+/// A slim bar without arrows, to be given to a scroll area.
+class ScrollBar final : public QScrollBar {
+    Q_OBJECT
+
+public:
+    explicit ScrollBar(Qt::Orientation orientation);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace velto
