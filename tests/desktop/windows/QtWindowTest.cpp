@@ -3,7 +3,7 @@
 
 #include "desktop/QtScreens.h"
 
-#include <QApplication>
+#include <QGuiApplication>
 #include <QDialog>
 #include <QLabel>
 #include <QPointer>
@@ -173,10 +173,3 @@ TEST(QtWindowTest, HasANameForAssistiveTechnologyEvenWithoutATitle)
 } // namespace
 
 } // namespace velto
-
-int main(int argc, char* argv[])
-{
-    testing::InitGoogleTest(&argc, argv);
-    QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}
