@@ -4,6 +4,7 @@
 #include "platform/StreamPlayer.h"
 
 #include <functional>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -43,9 +44,9 @@ private:
 
         void setVolume(float volume) override
         {
-            auto text = std::to_string(volume);
-            text.erase(text.find_last_not_of('0') + 1);
-            log("volume " + text);
+            std::ostringstream text;
+            text << "volume " << volume;
+            log(text.str());
         }
         void play() override { log("play"); }
         void pause() override { log("pause"); }
