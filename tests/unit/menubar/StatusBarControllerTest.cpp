@@ -1,0 +1,270 @@
+// SPDX-License-Identifier: MIT
+#include "menubar/StatusBarController.h"
+
+#include "StatusBarFixture.h"
+#include "observation/NotificationCenter.h"
+
+namespace velto {
+
+using namespace std::chrono_literals;
+
+using StatusBarControllerTest = StatusBarFixture;
+
+namespace {
+
+constexpr ClickEvent leftClick{.kind = ClickEvent::Kind::leftMouseUp};
+constexpr ClickEvent rightClick{.kind = ClickEvent::Kind::rightMouseUp};
+constexpr ClickEvent controlLeftClick{.kind = ClickEvent::Kind::leftMouseUp, .control = true};
+constexpr ClickEvent controlRightClick{.kind = ClickEvent::Kind::rightMouseUp, .control = true};
+constexpr ClickEvent otherClick{.kind = ClickEvent::Kind::otherMouseUp};
+constexpr ClickEvent controlOtherClick{.kind = ClickEvent::Kind::otherMouseUp, .control = true};
+
+} // namespace
+
+// Construction and title
+
+TEST_F(StatusBarControllerTest, TheButtonShowsTheTimeAtOnce)
+{
+    EXPECT_EQ(button().font, (std::pair(12.0, FontWeight::semibold)));
+    EXPECT_EQ(button().toolTip, "Velto");
+    EXPECT_EQ(button().titles, Lines{"25:00"}) << "before the first delivery";
+    EXPECT_EQ(button().appearsDisabled, std::vector<bool>{false});
+    EXPECT_TRUE(button().action);
+    EXPECT_EQ(world.statusItem->menu, controller().statusMenu());
+}
+
+TEST_F(StatusBarControllerTest, BuildsNoPanelAndNoWindowYet)
+{
+    controller();
+    world.runLoop.runTurns();
+
+    EXPECT_EQ(world.panelsMade, 0);
+    EXPECT_TRUE(world.windowsMade.empty());
+}
+
+TEST_F(StatusBarControllerTest, TheTitleShowsMinutesAndSecondsWithoutCappingTheMinutes)
+{
+    const std::vector<std::pair<std::int64_t, std::string>> cases{
+        {1, "01:00"}, {25, "25:00"}, {90, "90:00"}, {100, "100:00"}};
+    for (const auto& [minutes, title] : cases) {
+        timer().updateDurations(minutes, 5);
+        world.runLoop.runTurns();
+
+        EXPECT_EQ(button().title(), title);
+    }
+}
+
+TEST_F(StatusBarControllerTest, TheTitleFollowsTheCountdownDownToZero)
+{
+    settings.focusMinutes.set(1);
+    timer().start();
+
+    tick(1);
+    EXPECT_EQ(button().title(), "00:59");
+
+    tick(59);
+    EXPECT_EQ(button().title(), "00:00");
+
+    tick(1);
+    EXPECT_EQ(button().title(), "05:00");
+}
+
+TEST_F(StatusBarControllerTest, ATitleIsWrittenOnceATickAndNeverLooksDisabled)
+{
+    timer().start();
+    world.runLoop.runTurns();
+    button().titles.clear();
+    button().appearsDisabled.clear();
+
+    tick(3);
+
+    EXPECT_EQ(button().titles, (Lines{"24:59", "24:58", "24:57"}));
+    EXPECT_EQ(button().appearsDisabled, std::vector<bool>(3, false));
+}
+
+TEST_F(StatusBarControllerTest, AChangeOfThePhaseAloneRewritesTheTitleWithTheSameText)
+{
+    timer().updateDurations(5, 5);
+    world.runLoop.runTurns();
+    button().titles.clear();
+
+    timer().switchToPhase(PomodoroPhase::breakTime);
+    world.runLoop.runTurns();
+
+    EXPECT_EQ(button().titles, (Lines{"05:00", "05:00"})) << "once for the phase, once for the remaining time";
+}
+
+TEST_F(StatusBarControllerTest, TheTitleIsWrittenInTheTurnAfterTheChange)
+{
+    world.runLoop.runTurns();
+    timer().updateDurations(50, 10);
+    EXPECT_EQ(button().title(), "25:00");
+
+    world.runLoop.runTurns();
+    EXPECT_EQ(button().title(), "50:00");
+}
+
+TEST_F(StatusBarControllerTest, WithoutAButtonTheMenuAndTheSubscriptionsStillWork)
+{
+    world.statusItemHasButton = false;
+
+    EXPECT_EQ(settledMenu().front(), "Start Focus");
+    timer().start();
+    EXPECT_EQ(settledMenu().front(), "Pause Focus");
+
+    world.application.event = rightClick;
+    controller().handleStatusItemClick();
+    EXPECT_EQ(world.statusItem->popUps, 0);
+}
+
+TEST_F(StatusBarControllerTest, WhatWaitsWhenTheControllerGoesIsNotDelivered)
+{
+    timer().start();
+
+    m_controller.reset();
+    world.runLoop.runTurns();
+    m_timer->pause();
+    NotificationCenter::defaultCenter().post(pomodoroSessionCompleted, PomodoroPhase::focus);
+    world.runLoop.runTurns();
+
+    EXPECT_EQ(world.runLoop.waitingWorks(), 0U);
+    EXPECT_EQ(world.panelsMade, 0);
+}
+
+TEST_F(StatusBarControllerTest, NothingWaitsWhileNothingChanges)
+{
+    controller();
+    world.runLoop.runTurns();
+    const auto changes = world.statusItem->menuChanges;
+
+    world.runLoop.advance(1min);
+
+    EXPECT_EQ(world.runLoop.liveTimers(), 0U);
+    EXPECT_EQ(world.statusItem->menuChanges, changes);
+}
+
+// Clicks
+
+TEST_F(StatusBarControllerTest, EveryClickTogglesThePanelOrOpensTheMenu)
+{
+    struct Case {
+        const char* name;
+        std::optional<ClickEvent> event;
+        bool opensMenu;
+    };
+    const std::vector<Case> cases{
+        {"left", leftClick, false},
+        {"right", rightClick, true},
+        {"control-left", controlLeftClick, true},
+        {"control-right", controlRightClick, true},
+        {"other", otherClick, false},
+        {"control-other", controlOtherClick, false},
+        {"no event", std::nullopt, false},
+    };
+    for (const auto& [name, event, opensMenu] : cases) {
+        SCOPED_TRACE(name);
+        for (const bool wasVisible : {false, true}) {
+            if (wasVisible)
+                controller().showTimer();
+            else
+                controller().hideTimer();
+            world.statusItem->popUps = 0;
+
+            world.application.event = event;
+            button().action();
+
+            EXPECT_EQ(world.statusItem->popUps, opensMenu ? 1 : 0);
+            EXPECT_EQ(world.panel->isVisible(), opensMenu ? wasVisible : !wasVisible);
+            EXPECT_FALSE(timer().isRunning());
+        }
+    }
+}
+
+TEST_F(StatusBarControllerTest, ALeftClickShowsThePanelUnderTheItemAndASecondOneHidesIt)
+{
+    controller();
+
+    world.click(leftClick);
+    EXPECT_TRUE(world.panel->isVisible());
+    EXPECT_EQ(world.panel->frame, (Rect{1040, 654, 360, 420}));
+
+    world.click(leftClick);
+    EXPECT_FALSE(world.panel->isVisible());
+    EXPECT_EQ(world.statusItem->popUps, 0);
+}
+
+TEST_F(StatusBarControllerTest, AfterTheMenuALeftClickTogglesThePanelAgain)
+{
+    controller();
+
+    world.click(rightClick);
+    world.click(leftClick);
+
+    EXPECT_EQ(world.statusItem->popUps, 1);
+    EXPECT_TRUE(world.panel->isVisible());
+}
+
+TEST_F(StatusBarControllerTest, TheMenuIsUpToDateBeforeItOpens)
+{
+    controller();
+    world.runLoop.runTurns();
+    timer().start();
+    std::string title;
+    world.statusItem->onPopUp = [&] { title = menu().front(); };
+
+    world.click(rightClick);
+
+    EXPECT_EQ(title, "Pause Focus") << "though nothing has been delivered yet";
+}
+
+TEST_F(StatusBarControllerTest, AMenuThatAHostOpensIsUpToDateToo)
+{
+    controller();
+    world.runLoop.runTurns();
+    timer().start();
+
+    world.statusItem->menu->willOpen();
+
+    EXPECT_EQ(menu().front(), "Pause Focus");
+}
+
+// The end of a phase
+
+TEST_F(StatusBarControllerTest, AtTheEndOfAPhaseTheHiddenPanelIsShownWithoutActivating)
+{
+    timer().start();
+    tick(1500);
+    EXPECT_EQ(world.panelsMade, 0);
+
+    tick(1);
+
+    EXPECT_TRUE(world.panel->isVisible());
+    EXPECT_EQ(world.panel->frame, (Rect{1040, 654, 360, 420}));
+    EXPECT_EQ(world.application.activations, 0);
+    EXPECT_EQ(world.statusItem->popUps, 0);
+}
+
+TEST_F(StatusBarControllerTest, AtTheEndOfAPhaseTheVisiblePanelStaysAndComesToTheFrontAgain)
+{
+    controller().showTimer();
+    timer().start();
+
+    tick(1501);
+
+    EXPECT_TRUE(world.panel->isVisible());
+    EXPECT_EQ(world.panel->fronts, 2);
+    EXPECT_EQ(world.panel->outs, 0);
+}
+
+TEST_F(StatusBarControllerTest, ThePanelIsShownInTheTurnAfterTheNotification)
+{
+    controller();
+
+    NotificationCenter::defaultCenter().post("pomodoroSessionCompleted");
+    EXPECT_EQ(world.panelsMade, 0);
+
+    world.runLoop.runTurns();
+    EXPECT_TRUE(world.panel->isVisible());
+}
+
+} // namespace velto

@@ -1,0 +1,576 @@
+// SPDX-License-Identifier: MIT
+#include "StatusBarFixture.h"
+#include "menubar/MenuValues.h"
+#include "observation/NotificationCenter.h"
+
+namespace velto {
+
+using StatusMenuTest = StatusBarFixture;
+
+namespace {
+
+const std::vector<std::string> freshMenu{
+    "Start Focus",
+    "Reset Focus [hidden] [disabled]",
+    "---",
+    "Focus Duration",
+    "Focus Duration / 15 minutes",
+    "Focus Duration / 20 minutes",
+    "Focus Duration / 25 minutes [on]",
+    "Focus Duration / 30 minutes",
+    "Focus Duration / 45 minutes",
+    "Focus Duration / 50 minutes",
+    "Focus Duration / 60 minutes",
+    "Focus Duration / 90 minutes",
+    "Focus Duration / ---",
+    "Focus Duration / Custom\u2026",
+    "Break Duration",
+    "Break Duration / 5 minutes [on]",
+    "Break Duration / 10 minutes",
+    "Break Duration / 15 minutes",
+    "Break Duration / 20 minutes",
+    "Break Duration / 30 minutes",
+    "Break Duration / ---",
+    "Break Duration / Custom\u2026",
+    "Presets",
+    "Presets / 25m focus / 5m break [on]",
+    "Presets / 50m focus / 10m break",
+    "Presets / 60m focus / 10m break",
+    "Presets / 90m focus / 15m break",
+    "---",
+    "Focus Music",
+    "Focus Music / None [on]",
+    "Focus Music / ---",
+    "Focus Music / Lo-Fi",
+    "Focus Music / Deep Space Ambient",
+    "Focus Music / Groove Salad",
+    "Focus Music / DEF CON Radio",
+    "Focus Music / Space Station",
+    "Focus Music / Lush",
+    "Focus Music / Custom URL",
+    "Focus Music / ---",
+    "Focus Music / Edit Custom URL\u2026",
+    "Break Music",
+    "Break Music / None [on]",
+    "Break Music / ---",
+    "Break Music / Lo-Fi",
+    "Break Music / Deep Space Ambient",
+    "Break Music / Groove Salad",
+    "Break Music / DEF CON Radio",
+    "Break Music / Space Station",
+    "Break Music / Lush",
+    "Break Music / Custom URL",
+    "Break Music / ---",
+    "Break Music / Edit Custom URL\u2026",
+    "---",
+    "Current Phase",
+    "Current Phase / Focus [on]",
+    "Current Phase / Break",
+    "---",
+    "Auto-Transition",
+    "---",
+    "Settings\u2026 {gearshape, Settings}",
+    "How to Use {questionmark.circle, Help}",
+    "About velto {info.circle, About}",
+    "---",
+    "Quit",
+};
+
+void forEachItem(const Menu& menu, const std::function<void(MenuItem&)>& visit)
+{
+    for (const auto& item : menu.items) {
+        visit(*item);
+        if (item->submenu)
+            forEachItem(*item->submenu, visit);
+    }
+}
+
+} // namespace
+
+// Structure
+
+TEST_F(StatusMenuTest, FreshItIsExactlyThis)
+{
+    EXPECT_EQ(settledMenu(), freshMenu);
+}
+
+TEST_F(StatusMenuTest, AsBuiltOnlyTheTwoDurationsAreChecked)
+{
+    EXPECT_EQ(changedLines(freshMenu, menu()),
+        (Lines{"Presets / 25m focus / 5m break", "Focus Music / None", "Break Music / None", "Current Phase / Focus"}));
+}
+
+TEST_F(StatusMenuTest, HasTheEntriesOfEachMenuInNumber)
+{
+    const auto& top = *controller().statusMenu();
+    const auto entries = [&](const std::string& title) { return menuItem(top, title)->submenu->items.size(); };
+
+    EXPECT_EQ(top.title, "");
+    EXPECT_EQ(top.items.size(), 19U);
+    EXPECT_EQ(std::ranges::count_if(top.items, [](const auto& item) { return item->isSeparator; }), 6);
+    EXPECT_EQ(entries("Focus Duration"), 10U);
+    EXPECT_EQ(entries("Break Duration"), 7U);
+    EXPECT_EQ(entries("Presets"), 4U);
+    EXPECT_EQ(entries("Focus Music"), 11U);
+    EXPECT_EQ(entries("Break Music"), 11U);
+    EXPECT_EQ(entries("Current Phase"), 2U);
+}
+
+TEST_F(StatusMenuTest, OnlySeparatorsAndItemsWithASubmenuHaveNoAction)
+{
+    forEachItem(*controller().statusMenu(), [](const MenuItem& item) {
+        EXPECT_EQ(static_cast<bool>(item.action), !item.isSeparator && !item.submenu) << item.title;
+        if (item.submenu) {
+            EXPECT_EQ(item.submenu->title, item.title);
+            EXPECT_FALSE(item.submenu->willOpen);
+        }
+    });
+}
+
+TEST_F(StatusMenuTest, ItemsCarryWhatTheyStandFor)
+{
+    std::vector<std::string> carried;
+    forEachItem(*controller().statusMenu(), [&](const MenuItem& item) {
+        if (const auto* duration = std::any_cast<DurationChoice>(&item.representedObject))
+            carried.push_back(std::to_string(duration->minutes));
+        else if (const auto* preset = std::any_cast<DurationPreset>(&item.representedObject))
+            carried.push_back(std::to_string(preset->focus) + '/' + std::to_string(preset->breakTime));
+        else if (const auto* phase = std::any_cast<std::int64_t>(&item.representedObject))
+            carried.push_back(item.title + '=' + std::to_string(*phase));
+        else if (const auto* music = std::any_cast<MusicChoice>(&item.representedObject))
+            carried.push_back(music->preset ? std::string(rawValue(*music->preset)) : "no music");
+        else
+            EXPECT_FALSE(item.representedObject.has_value()) << item.title;
+    });
+
+    const Lines music{"no music", "Lo-Fi", "Deep Space Ambient", "Groove Salad", "DEF CON Radio", "Space Station",
+        "Lush", "Custom URL"};
+    Lines expected{
+        "15", "20", "25", "30", "45", "50", "60", "90", "5", "10", "15", "20", "30", "25/5", "50/10", "60/10", "90/15"};
+    expected.insert(expected.end(), music.begin(), music.end());
+    expected.insert(expected.end(), music.begin(), music.end());
+    expected.insert(expected.end(), {"Focus=0", "Break=1"});
+    EXPECT_EQ(carried, expected);
+}
+
+TEST_F(StatusMenuTest, IsNeverRebuilt)
+{
+    const auto items = [this] {
+        std::vector<const MenuItem*> all;
+        forEachItem(*controller().statusMenu(), [&](const MenuItem& item) { all.push_back(&item); });
+        return all;
+    };
+    const auto built = items();
+
+    timer().start();
+    tick(3);
+    choose("Presets / 50m focus / 10m break");
+    world.click({.kind = ClickEvent::Kind::rightMouseUp});
+
+    EXPECT_EQ(items(), built);
+}
+
+// States
+
+TEST_F(StatusMenuTest, WhileRunningTheTimerCanBePausedAndResetFromTheFirstSecond)
+{
+    timer().start();
+
+    EXPECT_EQ(changedLines(freshMenu, settledMenu()), (Lines{"Pause Focus", "Reset Focus"}));
+}
+
+TEST_F(StatusMenuTest, PausedAfterSomeSecondsItCanBeStartedAndReset)
+{
+    timer().start();
+    tick(3);
+    timer().pause();
+
+    EXPECT_EQ(changedLines(freshMenu, settledMenu()), Lines{"Reset Focus"});
+}
+
+TEST_F(StatusMenuTest, PausedAtItsFullLengthResetIsVisibleAndDisabled)
+{
+    timer().start();
+    timer().pause();
+
+    EXPECT_EQ(changedLines(freshMenu, settledMenu()), Lines{"Reset Focus [disabled]"});
+}
+
+TEST_F(StatusMenuTest, AfterAResetItIsFreshAgain)
+{
+    timer().start();
+    tick(3);
+    timer().reset();
+
+    EXPECT_EQ(settledMenu(), freshMenu);
+}
+
+TEST_F(StatusMenuTest, InTheBreakEveryLabelReadsBreak)
+{
+    timer().switchToPhase(PomodoroPhase::breakTime);
+    EXPECT_EQ(changedLines(freshMenu, settledMenu()),
+        (Lines{
+            "Start Break", "Reset Break [hidden] [disabled]", "Current Phase / Focus", "Current Phase / Break [on]"}));
+
+    timer().start();
+    EXPECT_EQ(settledMenu().at(0), "Pause Break");
+    EXPECT_EQ(settledMenu().at(1), "Reset Break");
+}
+
+TEST_F(StatusMenuTest, InTheBreakResetComparesWithTheBreakLength)
+{
+    settings.focusMinutes.set(5);
+    settings.breakMinutes.set(25);
+    timer().switchToPhase(PomodoroPhase::breakTime);
+    timer().start();
+    tick(3);
+    timer().pause();
+    EXPECT_EQ(settledMenu().at(1), "Reset Break") << "below the break length, though above the focus length";
+
+    timer().reset();
+    timer().start();
+    timer().pause();
+    EXPECT_EQ(settledMenu().at(1), "Reset Break [disabled]");
+}
+
+TEST_F(StatusMenuTest, ADurationThatIsInNoListMarksNothing)
+{
+    timer().updateDurations(35, 5);
+
+    EXPECT_EQ(changedLines(freshMenu, settledMenu()),
+        (Lines{"Focus Duration / 25 minutes", "Presets / 25m focus / 5m break"}));
+}
+
+TEST_F(StatusMenuTest, BuiltWithADurationThatIsInNoListItChecksNone)
+{
+    settings.focusMinutes.set(35);
+    settings.breakMinutes.set(7);
+
+    for (const auto& line : menu())
+        EXPECT_FALSE(line.ends_with("[on]")) << line;
+}
+
+TEST_F(StatusMenuTest, DurationsMarkTheOnePresetThatEqualsBoth)
+{
+    timer().updateDurations(50, 10);
+    EXPECT_EQ(changedLines(freshMenu, settledMenu()),
+        (Lines{"Focus Duration / 25 minutes", "Focus Duration / 50 minutes [on]", "Break Duration / 5 minutes",
+            "Break Duration / 10 minutes [on]", "Presets / 25m focus / 5m break",
+            "Presets / 50m focus / 10m break [on]"}));
+
+    timer().updateDurations(60, 10);
+    EXPECT_EQ(changedLines(freshMenu, settledMenu()),
+        (Lines{"Focus Duration / 25 minutes", "Focus Duration / 60 minutes [on]", "Break Duration / 5 minutes",
+            "Break Duration / 10 minutes [on]", "Presets / 25m focus / 5m break",
+            "Presets / 60m focus / 10m break [on]"}));
+
+    timer().updateDurations(25, 10);
+    EXPECT_EQ(changedLines(freshMenu, settledMenu()),
+        (Lines{"Break Duration / 5 minutes", "Break Duration / 10 minutes [on]", "Presets / 25m focus / 5m break"}));
+}
+
+TEST_F(StatusMenuTest, ChangedDurationsAreMarkedEvenWithoutAReset)
+{
+    timer().updateDurationsWithoutReset(25, 20);
+
+    EXPECT_EQ(changedLines(freshMenu, settledMenu()),
+        (Lines{"Break Duration / 5 minutes", "Break Duration / 20 minutes [on]", "Presets / 25m focus / 5m break"}));
+}
+
+TEST_F(StatusMenuTest, WithMusicOffOnlyNoneIsMarkedWhateverIsStored)
+{
+    settings.focusMusicPreset.set(MusicPreset::lush);
+    EXPECT_EQ(settledMenu(), freshMenu);
+
+    choose("Focus Music / Groove Salad");
+    EXPECT_EQ(changedLines(freshMenu, menu()), (Lines{"Focus Music / None", "Focus Music / Groove Salad [on]"}));
+
+    choose("Focus Music / None");
+    EXPECT_EQ(menu(), freshMenu);
+}
+
+TEST_F(StatusMenuTest, EachPhaseHasMarksOfItsOwn)
+{
+    settings.enableFocusMusic.set(true);
+    settings.enableBreakMusic.set(true);
+    settings.breakMusicPreset.set(MusicPreset::custom);
+
+    EXPECT_EQ(changedLines(freshMenu, settledMenu()),
+        (Lines{
+            "Focus Music / None", "Focus Music / Lo-Fi [on]", "Break Music / None", "Break Music / Custom URL [on]"}));
+}
+
+TEST_F(StatusMenuTest, AutoTransitionIsMarkedAtBuildAndOnEveryRefresh)
+{
+    settings.autoTransition.set(true);
+    EXPECT_EQ(changedLines(freshMenu, settledMenu()), Lines{"Auto-Transition [on]"});
+
+    timer().autoTransition.set(false);
+    EXPECT_EQ(changedLines(freshMenu, settledMenu()), Lines{"Auto-Transition [on]"}) << "no refresh yet";
+
+    controller().statusMenu()->willOpen();
+    EXPECT_EQ(menu(), freshMenu);
+}
+
+TEST_F(StatusMenuTest, EveryRefreshTellsTheHost)
+{
+    settledMenu();
+    world.statusItem->menuChanges = 0;
+
+    timer().start();
+    settledMenu();
+
+    EXPECT_GT(world.statusItem->menuChanges, 0);
+}
+
+// Actions
+
+TEST_F(StatusMenuTest, StartPauseAndResetDriveTheTimer)
+{
+    settledMenu();
+
+    choose("Start Focus");
+    EXPECT_TRUE(timer().isRunning());
+    tick(3);
+
+    choose("Pause Focus");
+    EXPECT_FALSE(timer().isRunning());
+    EXPECT_TRUE(timer().hasStarted());
+
+    choose("Reset Focus");
+    EXPECT_FALSE(timer().hasStarted());
+    EXPECT_EQ(timer().remainingSeconds(), 1500);
+}
+
+TEST_F(StatusMenuTest, ADurationChangesItsPhaseAndKeepsTheOther)
+{
+    timer().updateDurations(35, 7);
+    timer().start();
+
+    choose("Focus Duration / 90 minutes");
+    EXPECT_EQ(timer().focusDuration(), 5400);
+    EXPECT_EQ(timer().breakDuration(), 420);
+    EXPECT_FALSE(timer().isRunning());
+
+    choose("Break Duration / 30 minutes");
+    EXPECT_EQ(timer().focusDuration(), 5400);
+    EXPECT_EQ(timer().breakDuration(), 1800);
+    EXPECT_EQ(settings.focusMinutes(), 90);
+    EXPECT_EQ(settings.breakMinutes(), 30);
+}
+
+TEST_F(StatusMenuTest, APresetChangesBothDurations)
+{
+    choose("Presets / 90m focus / 15m break");
+
+    EXPECT_EQ(timer().focusDuration(), 5400);
+    EXPECT_EQ(timer().breakDuration(), 900);
+    EXPECT_EQ(timer().remainingSeconds(), 5400);
+}
+
+TEST_F(StatusMenuTest, APhaseIsSwitchedTo)
+{
+    timer().start();
+
+    choose("Current Phase / Break");
+    EXPECT_EQ(timer().phase(), PomodoroPhase::breakTime);
+    EXPECT_FALSE(timer().isRunning());
+
+    choose("Current Phase / Focus");
+    EXPECT_EQ(timer().phase(), PomodoroPhase::focus);
+}
+
+TEST_F(StatusMenuTest, AnItemWithoutAValueOfItsKindDoesNothing)
+{
+    struct Case {
+        const char* path;
+        std::any value;
+    };
+    timer().start();
+    tick(3);
+    world.defaults.writes.clear();
+    const std::vector<Case> cases{
+        {"Current Phase / Break", std::int64_t{2}},
+        {"Current Phase / Break", std::int64_t{-1}},
+        {"Current Phase / Break", std::any()},
+        {"Current Phase / Break", std::string("1")},
+        {"Presets / 50m focus / 10m break", std::any()},
+        {"Presets / 50m focus / 10m break", std::int64_t{50}},
+        {"Focus Duration / 15 minutes", std::any()},
+        {"Focus Duration / 15 minutes", std::int64_t{15}},
+        {"Focus Music / Lush", std::any()},
+        {"Focus Music / Lush", MusicPreset::lush},
+    };
+    for (const auto& [path, value] : cases) {
+        auto item = *menuItem(*controller().statusMenu(), path);
+        item.representedObject = value;
+
+        item.action(item);
+
+        EXPECT_TRUE(timer().isRunning()) << path;
+        EXPECT_EQ(timer().remainingSeconds(), 1497) << path;
+        EXPECT_TRUE(world.defaults.writes.empty()) << path;
+    }
+}
+
+TEST_F(StatusMenuTest, AutoTransitionFlipsMarksAndStores)
+{
+    settledMenu();
+
+    choose("Auto-Transition");
+    EXPECT_TRUE(timer().autoTransition());
+    EXPECT_TRUE(settings.autoTransition());
+    EXPECT_EQ(changedLines(freshMenu, menu()), Lines{"Auto-Transition [on]"});
+
+    choose("Auto-Transition");
+    EXPECT_FALSE(timer().autoTransition());
+    EXPECT_FALSE(settings.autoTransition());
+    EXPECT_EQ(menu(), freshMenu);
+}
+
+TEST_F(StatusMenuTest, EveryWayToTheSettingsShowsThePanelAndThenAsksForTheForm)
+{
+    for (const auto* path : {"Settings\u2026", "Focus Duration / Custom\u2026", "Break Duration / Custom\u2026",
+             "Focus Music / Edit Custom URL\u2026", "Break Music / Edit Custom URL\u2026"}) {
+        SCOPED_TRACE(path);
+        controller().hideTimer();
+        int asked = 0;
+        const auto observer = NotificationCenter::defaultCenter().addObserver(
+            "StatusBarShowSettings", [&](const Notification& notification) {
+                ++asked;
+                EXPECT_TRUE(world.panel->isVisible());
+                EXPECT_FALSE(notification.object.has_value());
+            });
+
+        choose(path);
+
+        EXPECT_EQ(asked, 1);
+        EXPECT_EQ(world.application.activations, 0);
+    }
+}
+
+TEST_F(StatusMenuTest, HelpAndAboutActivateAndThenComeToTheFrontInOneWindowEach)
+{
+    world.application.onActivate = [this] { world.windowsShown.emplace_back("activated"); };
+
+    choose("How to Use");
+    choose("About velto");
+    choose("How to Use");
+
+    EXPECT_EQ(world.windowsShown, (Lines{"activated", "help", "activated", "about", "activated", "help"}));
+    EXPECT_EQ(world.windowsMade, (Lines{"help", "about"}));
+}
+
+TEST_F(StatusMenuTest, QuitTerminates)
+{
+    choose("Quit");
+
+    EXPECT_EQ(world.application.terminations, 1);
+}
+
+// Music
+
+TEST_F(StatusMenuTest, APresetOfTheRunningPhaseRestartsTheStreamAtOnce)
+{
+    timer().start();
+
+    choose("Focus Music / Lush");
+    choose("Focus Music / Groove Salad");
+
+    EXPECT_EQ(world.streamPlayers.opened,
+        (Lines{std::string(streamUrl(MusicPreset::lush)), std::string(streamUrl(MusicPreset::grooveSalad))}));
+    EXPECT_TRUE(settings.enableFocusMusic());
+    EXPECT_EQ(settings.focusMusicPreset(), MusicPreset::grooveSalad);
+    EXPECT_TRUE(timer().musicPlayer().isPlaying());
+}
+
+TEST_F(StatusMenuTest, NoneSilencesTheRunningPhaseAndKeepsThePreset)
+{
+    timer().start();
+    choose("Focus Music / Lush");
+
+    choose("Focus Music / None");
+
+    EXPECT_FALSE(timer().musicPlayer().isPlaying());
+    EXPECT_EQ(timer().musicPlayer().currentURL(), std::nullopt);
+    EXPECT_FALSE(settings.enableFocusMusic());
+    EXPECT_EQ(settings.focusMusicPreset(), MusicPreset::lush);
+}
+
+TEST_F(StatusMenuTest, AnEmptyCustomAddressSilencesTheRunningPhase)
+{
+    timer().start();
+    choose("Focus Music / Lush");
+
+    choose("Focus Music / Custom URL");
+
+    EXPECT_FALSE(timer().musicPlayer().isPlaying());
+    EXPECT_EQ(settings.focusMusicPreset(), MusicPreset::custom);
+}
+
+TEST_F(StatusMenuTest, APresetForTheOtherPhaseDoesNotTouchThePlayer)
+{
+    timer().start();
+    choose("Focus Music / Lush");
+    world.streamPlayers.calls.clear();
+
+    choose("Break Music / Groove Salad");
+    choose("Break Music / None");
+
+    EXPECT_TRUE(world.streamPlayers.calls.empty());
+    EXPECT_TRUE(timer().musicPlayer().isPlaying());
+}
+
+TEST_F(StatusMenuTest, WhilePausedAChoiceIsOnlyStored)
+{
+    timer().start();
+    choose("Focus Music / Lush");
+    timer().pause();
+    world.streamPlayers.calls.clear();
+
+    choose("Focus Music / Groove Salad");
+
+    EXPECT_TRUE(world.streamPlayers.calls.empty());
+    EXPECT_EQ(settings.focusMusicPreset(), MusicPreset::grooveSalad);
+}
+
+TEST_F(StatusMenuTest, AChoiceWritesEnabledThenPresetOfItsPhaseOnly)
+{
+    struct Case {
+        const char* path;
+        Lines keys;
+    };
+    const std::vector<Case> cases{
+        {"Focus Music / Lush", {"enableFocusMusic", "focusMusicPreset"}},
+        {"Focus Music / None", {"enableFocusMusic"}},
+        {"Break Music / Lush", {"enableBreakMusic", "breakMusicPreset"}},
+        {"Break Music / None", {"enableBreakMusic"}},
+    };
+    for (const auto& [path, keys] : cases) {
+        world.defaults.writes.clear();
+
+        choose(path);
+
+        Lines written;
+        for (const auto& write : world.defaults.writes)
+            written.push_back(write.first);
+        EXPECT_EQ(written, keys) << path;
+    }
+}
+
+TEST_F(StatusMenuTest, ABreakChoiceDrivesTheRunningBreak)
+{
+    timer().switchToPhase(PomodoroPhase::breakTime);
+    timer().start();
+
+    choose("Break Music / Space Station");
+    EXPECT_EQ(timer().musicPlayer().currentURL(), streamUrl(MusicPreset::spaceStation));
+
+    choose("Focus Music / Lush");
+    EXPECT_EQ(timer().musicPlayer().currentURL(), streamUrl(MusicPreset::spaceStation));
+
+    choose("Break Music / None");
+    EXPECT_FALSE(timer().musicPlayer().isPlaying());
+}
+
+} // namespace velto
