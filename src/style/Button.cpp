@@ -60,7 +60,7 @@ void Button::paintEvent(QPaintEvent*)
     auto face = color(m_kind == ButtonKind::prominent ? m_tint : ColorName::control, *this);
     auto content = label;
     if (m_kind == ButtonKind::prominent)
-        content = color(ColorName::tintedLabel, *this);
+        content = m_tint == ColorName::accent ? QColor(Qt::white) : color(ColorName::tintedLabel, *this);
     else if (m_kind == ButtonKind::destructive)
         content = color(ColorName::red, *this);
     else if (m_kind == ButtonKind::borderless)
@@ -115,7 +115,7 @@ double Button::symbolSize() const
 
 double Button::contentWidth() const
 {
-    double width = fontMetrics().horizontalAdvance(text());
+    double width = lineWidth(*this, text());
     if (!m_symbol.isEmpty())
         width += symbolSize() + (text().isEmpty() ? 0 : symbolGap);
     return width;

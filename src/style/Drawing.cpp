@@ -15,6 +15,11 @@ int controlHeight(const QWidget& widget)
     return widget.fontMetrics().height() + 12;
 }
 
+int lineWidth(const QWidget& widget, const QString& text)
+{
+    return static_cast<int>(std::ceil(QFontMetricsF(widget.font()).horizontalAdvance(text)));
+}
+
 bool showsFocus(const QWidget& widget)
 {
     return widget.hasFocus() && widget.window()->testAttribute(Qt::WA_KeyboardFocusChange);
@@ -42,7 +47,7 @@ void drawBezel(QPainter& painter, const QRectF& rect, double radius, const QColo
 void drawLine(QPainter& painter, const QRectF& rect, Qt::Alignment horizontally, const QString& text)
 {
     const QFontMetricsF metrics(painter.font());
-    const auto shown = metrics.elidedText(text, Qt::ElideRight, std::ceil(rect.width()));
+    const auto shown = metrics.elidedText(text, Qt::ElideRight, rect.width());
     const double width = metrics.horizontalAdvance(shown);
     double x = rect.left();
     if (horizontally & Qt::AlignHCenter)

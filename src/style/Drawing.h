@@ -17,6 +17,9 @@ inline constexpr double disabledOpacity = 0.4;
 /// The height of a control around one line of `widget`'s text.
 [[nodiscard]] int controlHeight(const QWidget& widget);
 
+/// The whole points that one line of `text` takes in `widget`'s font.
+[[nodiscard]] int lineWidth(const QWidget& widget, const QString& text);
+
 /// Whether the keyboard's user should see that `widget` has the focus.
 [[nodiscard]] bool showsFocus(const QWidget& widget);
 

@@ -40,8 +40,8 @@ QSize PopUpPicker::sizeHint() const
 {
     int widest = 0;
     for (int i = 0; i < count(); ++i)
-        widest = std::max(widest, fontMetrics().horizontalAdvance(itemText(i)));
-    return {widest + static_cast<int>(textMargin + arrowsWidth) + 2, controlHeight(*this)};
+        widest = std::max(widest, lineWidth(*this, itemText(i)));
+    return {widest + static_cast<int>(textMargin + arrowsWidth), controlHeight(*this)};
 }
 
 QSize PopUpPicker::minimumSizeHint() const

@@ -35,7 +35,7 @@ ToggleSwitch::ToggleSwitch(const QString& title) : QCheckBox(title)
 
 QSize ToggleSwitch::sizeHint() const
 {
-    const int textWidth = text().isEmpty() ? 0 : fontMetrics().horizontalAdvance(text()) + gap;
+    const int textWidth = text().isEmpty() ? 0 : lineWidth(*this, text()) + gap;
     return {textWidth + trackSize.width(), std::max(trackSize.height(), fontMetrics().height()) + 2};
 }
 

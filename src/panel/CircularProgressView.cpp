@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "panel/CircularProgressView.h"
+
+#include <QAccessibleWidget>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <utility>
+
+namespace velto {
+
+namespace {
+
+constexpr double trackOpacity = 0.1;
+
+/// Per cent of the phase that have elapsed.
+class RingInterface final : public QAccessibleWidget, public QAccessibleValueInterface {
+public:
+    explicit RingInterface(CircularProgressView* ring) : QAccessibleWidget(ring, QAccessible::ProgressBar) { }
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface*>(this)
+                                                   : QAccessibleWidget::interface_cast(type);
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        switch (kind) {
+        case QAccessible::Name:
+            return ring().spokenText();
+        case QAccessible::Value:
+            return QStringLiteral("%1%").arg(currentValue().toInt());
+        default:
+            return QAccessibleWidget::text(kind);
+        }
+    }
+
+    QRect rect() const override
+    {
+        const auto frame = ring().contentsRect();
+        return {ring().mapToGlobal(frame.topLeft()), frame.size()};
+    }
+
+    QVariant currentValue() const override { return static_cast<int>(std::clamp(ring().progress(), 0.0, 1.0) * 100); }
+    void setCurrentValue(const QVariant&) override { }
+    QVariant maximumValue() const override { return 100; }
+    QVariant minimumValue() const override { return 0; }
+    QVariant minimumStepSize() const override { return 1; }
+
+private:
+    CircularProgressView& ring() const { return *static_cast<CircularProgressView*>(widget()); }
+};
+
+} // namespace
+
+CircularProgressView::CircularProgressView(int diameter)
+{
+    constexpr int outside = lineWidth / 2;
+    setContentsMargins(outside, outside, outside, outside);
+    setFixedSize(diameter + 2 * outside, diameter + 2 * outside);
+    connect(&m_arcMotion, &QVariantAnimation::valueChanged, this, &CircularProgressView::redrawArc);
+    connect(&m_colorMotion, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
+}
+
+void CircularProgressView::setProgress(double progress)
+{
+    if (progress == m_progress)
+        return;
+    m_from = drawnProgress();
+    m_progress = progress;
+
+    const double way = std::abs(std::min(m_progress, 1.0) - m_from) * std::numbers::pi * contentsRect().width();
+    run(m_arcMotion);
+    // Nobody could see it move within one pixel.
+    if (way * devicePixelRatioF() < 1)
+        m_arcMotion.finish();
+    redrawArc();
+}
+
+double CircularProgressView::drawnProgress() const
+{
+    return m_from + (std::min(m_progress, 1.0) - m_from) * m_arcMotion.value();
+}
+
+void CircularProgressView::setColor(ColorName color)
+{
+    if (color == m_color)
+        return;
+    m_fromColor = drawnColor();
+    m_color = color;
+    run(m_colorMotion);
+    update();
+}
+
+QString CircularProgressView::spokenText() const
+{
+    return tr("Progress");
+}
+
+QAccessibleInterface* CircularProgressView::makeAccessible()
+{
+    return new RingInterface(this);
+}
+
+void CircularProgressView::paintEvent(QPaintEvent*)
+{
+    const QRectF circle = contentsRect();
+    const auto color = drawnColor();
+    const double progress = drawnProgress();
+
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    auto trackColor = color;
+    trackColor.setAlphaF(trackOpacity);
+    painter.setPen(QPen(trackColor, lineWidth));
+    painter.drawEllipse(circle);
+
+    if (progress <= 0)
+        return;
+    painter.setPen(QPen(color, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    if (progress >= 1) {
+        painter.drawEllipse(circle);
+    } else {
+        QPainterPath arc;
+        arc.arcMoveTo(circle, 90);
+        arc.arcTo(circle, 90, -360 * progress);
+        painter.drawPath(arc);
+    }
+}
+
+QColor CircularProgressView::drawnColor() const
+{
+    const auto target = color(m_color, *this);
+    return m_colorMotion.value() < 1 ? mixed(m_fromColor, target, m_colorMotion.value()) : target;
+}
+
+QPointF CircularProgressView::pointAt(double fraction) const
+{
+    const double angle = 2 * std::numbers::pi * fraction;
+    const QRectF circle = contentsRect();
+    return circle.center() + QPointF(std::sin(angle), -std::cos(angle)) * (circle.width() / 2);
+}
+
+void CircularProgressView::redrawArc()
+{
+    const double before = std::exchange(m_redrawn, drawnProgress());
+    if (before == m_redrawn)
+        return;
+    constexpr double shortWay = 0.05;
+    if (std::abs(m_redrawn - before) > shortWay) {
+        update();
+        return;
+    }
+    const auto from = pointAt(before);
+    const auto to = pointAt(m_redrawn);
+    constexpr double reach = lineWidth / 2.0 + 2;
+    const QRectF ends({std::min(from.x(), to.x()), std::min(from.y(), to.y())},
+        QPointF(std::max(from.x(), to.x()), std::max(from.y(), to.y())));
+    update(ends.adjusted(-reach, -reach, reach, reach).toAlignedRect());
+}
+
+} // namespace velto

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "panel/RollingTime.h"
+
+#include "style/Colors.h"
+#include "style/TextStyle.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace velto {
+
+namespace {
+
+constexpr int viewHeight = 68;
+/// Between the two widest digits side by side, in parts of the font's size.
+constexpr double digitGap = 0.09;
+/// How far a digit rolls, in parts of the font's size.
+constexpr double rollDistance = 0.4;
+
+} // namespace
+
+RollingTime::RollingTime(int width)
+{
+    setFixedSize(width, viewHeight);
+    connect(&m_roll, &QVariantAnimation::valueChanged, this, &RollingTime::redrawRolling);
+}
+
+void RollingTime::setTime(const QString& text, double fontSize)
+{
+    if (text == m_text && fontSize == m_fontSize)
+        return;
+    const bool isSameShape = text.size() == m_text.size() && fontSize == m_fontSize;
+    m_previous = isSameShape ? m_text : QString();
+    m_text = text;
+    m_fontSize = fontSize;
+    if (isSameShape) {
+        run(m_roll);
+        redrawRolling();
+    } else {
+        m_roll.stop();
+        m_roll.finish();
+        update();
+    }
+}
+
+std::vector<RollingTime::Glyph> RollingTime::glyphs() const
+{
+    std::vector<Glyph> result;
+    const double rolled = m_roll.value();
+    const double distance = rollDistance * m_fontSize;
+    double x = -textWidth() / 2;
+    for (int i = 0; i < m_text.size(); ++i) {
+        const double width = cellWidth(m_text[i]);
+        const double middle = x + width / 2;
+        x += width;
+        if (rolled < 1 && rolls(i)) {
+            result.push_back({m_previous[i], {middle, -distance * rolled}, 1 - rolled});
+            result.push_back({m_text[i], {middle, distance * (1 - rolled)}, rolled});
+        } else {
+            result.push_back({m_text[i], {middle, 0}, 1});
+        }
+    }
+    return result;
+}
+
+double RollingTime::cellWidth(QChar character) const
+{
+    const QFontMetricsF metrics(clockFont(m_fontSize));
+    if (!character.isDigit())
+        return metrics.horizontalAdvance(character);
+    double widest = 0;
+    for (char16_t digit = u'0'; digit <= u'9'; ++digit)
+        widest = std::max(widest, metrics.tightBoundingRect(QString(QChar(digit))).width());
+    return widest + digitGap * m_fontSize;
+}
+
+void RollingTime::paintEvent(QPaintEvent*)
+{
+    const auto font = clockFont(m_fontSize);
+    const QFontMetricsF metrics(font);
+    const double digitMiddle = metrics.tightBoundingRect(QStringLiteral("0")).center().y();
+
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(width() / 2.0, height() / 2.0);
+    painter.scale(scale(), scale());
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color(ColorName::label, *this));
+    for (const auto& glyph : glyphs()) {
+        // Centred by what is seen: a colon between the digits, not on their base line.
+        const auto ink = metrics.tightBoundingRect(QString(glyph.character)).center();
+        const double middle = glyph.character.isDigit() ? digitMiddle : ink.y();
+        QPainterPath outline;
+        outline.addText(glyph.center - QPointF(ink.x(), middle), font, glyph.character);
+        painter.setOpacity(glyph.opacity);
+        painter.drawPath(outline);
+    }
+}
+
+double RollingTime::textWidth() const
+{
+    double width = 0;
+    for (const auto character : m_text)
+        width += cellWidth(character);
+    return width;
+}
+
+double RollingTime::scale() const
+{
+    return std::min(1.0, width() / std::max(textWidth(), 1.0));
+}
+
+bool RollingTime::rolls(int index) const
+{
+    return index < m_previous.size() && m_previous[index] != m_text[index];
+}
+
+void RollingTime::redrawRolling()
+{
+    double x = width() / 2.0 - textWidth() / 2 * scale();
+    for (int i = 0; i < m_text.size(); ++i) {
+        const double cell = cellWidth(m_text[i]) * scale();
+        if (rolls(i))
+            update(QRectF(x, 0, cell, height()).toAlignedRect().adjusted(-2, 0, 2, 0));
+        x += cell;
+    }
+}
+
+} // namespace velto

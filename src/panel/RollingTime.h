@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "style/AnimatedView.h"
+#include "style/Motion.h"
+
+#include <QPointF>
+#include <QString>
+
+#include <vector>
+
+namespace velto {
+
+/// The remaining time, each digit in a cell of fixed width; digits that change roll upwards.
+///
+/// Assistive technology reads it, but is not told of the ticks.
+class RollingTime : public AnimatedView {
+    Q_OBJECT
+
+public:
+    /// A character as it is drawn: its cell's centre, in points from the middle of the view, y downwards.
+    struct Glyph {
+        QChar character;
+        QPointF center;
+        double opacity = 1;
+        bool operator==(const Glyph&) const = default;
+    };
+
+    /// Longer times than fit into `width` are drawn smaller.
+    explicit RollingTime(int width);
+
+    void setTime(const QString& text, double fontSize);
+    [[nodiscard]] QString spokenText() const override { return m_text; }
+    [[nodiscard]] double fontSize() const { return m_fontSize; }
+
+    /// All that is drawn just now.
+    [[nodiscard]] std::vector<Glyph> glyphs() const;
+    [[nodiscard]] double cellWidth(QChar character) const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    [[nodiscard]] double textWidth() const;
+    [[nodiscard]] double scale() const;
+    [[nodiscard]] bool rolls(int index) const;
+    void redrawRolling();
+
+    QString m_text;
+    QString m_previous; ///< As long as `m_text`, or empty when nothing rolls.
+    double m_fontSize = 64;
+    Motion m_roll{QEasingCurve::InOutCubic, this};
+};
+
+} // namespace velto

@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+// Draws every view in every form into pictures: velto_gallery FOLDER. The scale is QT_SCALE_FACTOR.
+
+#include "core/PomodoroTimer.h"
+#include "panel/PanelContainerView.h"
+#include "settings/AppSettings.h"
+#include "style/Button.h"
+#include "style/Colors.h"
+#include "style/PopUpPicker.h"
+#include "style/Slider.h"
+#include "style/Stack.h"
+#include "style/SymbolView.h"
+#include "style/TextField.h"
+#include "style/TextLabel.h"
+#include "style/ToggleSwitch.h"
+#include "support/FakeBundle.h"
+#include "support/FakeKeyValueStore.h"
+#include "support/FakeRunLoop.h"
+#include "support/FakeSoundLibrary.h"
+#include "support/FakeStreamPlayerFactory.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QImage>
+#include <QPainter>
+
+using namespace std::chrono_literals;
+
+namespace velto {
+
+namespace {
+
+class Gallery {
+public:
+    explicit Gallery(QString folder) : m_folder(std::move(folder)) { QDir().mkpath(m_folder); }
+
+    void drawAll()
+    {
+        card("fresh", 25, 5, {});
+        card("running", 25, 5, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
+            timer.start();
+            loop.advance(547s);
+        });
+        card("paused", 25, 5, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
+            timer.start();
+            loop.advance(1111s);
+            timer.pause();
+        });
+        card("break", 25, 5, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
+            timer.switchToPhase(PomodoroPhase::breakTime);
+            timer.start();
+            loop.advance(72s);
+        });
+        card("end", 25, 5, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
+            timer.start();
+            loop.advance(1500s);
+        });
+        card("hundred", 100, 5, {});
+        card("thousand", 1000, 1000, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
+            timer.start();
+            loop.advance(1s);
+        });
+        card("endless", 123456789, 987654321, {});
+        controls();
+    }
+
+private:
+    void card(const QString& name, std::int64_t focusMinutes, std::int64_t breakMinutes,
+        const std::function<void(PomodoroTimer&, FakeRunLoop&)>& arrange)
+    {
+        FakeKeyValueStore store;
+        store.values["focusMinutes"] = focusMinutes;
+        store.values["breakMinutes"] = breakMinutes;
+        FakeSoundLibrary sounds;
+        FakeRunLoop runLoop;
+        FakeStreamPlayerFactory players;
+        FakeBundle bundle;
+        AppSettings settings{store, sounds};
+        PomodoroTimer timer{settings, runLoop, players};
+        PanelContainerView view{timer, settings, {360, 420}, runLoop, bundle, {}};
+        if (arrange)
+            arrange(timer, runLoop);
+        view.show();
+        save(view, "card-" + name);
+    }
+
+    void controls()
+    {
+        QWidget view;
+        auto* toggle = new ToggleSwitch("Enable music during focus");
+        auto* off = new ToggleSwitch("Auto-Transition");
+        auto* slider = new Slider(25, 120);
+        auto* picker = new PopUpPicker("Preset");
+        auto* play = new Button(ButtonKind::borderless, {}, "play.circle.fill");
+        auto* disabledPlay = new Button(ButtonKind::borderless, {}, "play.circle.fill");
+        auto* field = new TextField("Custom URL");
+        auto* number = new TextField;
+        auto* apply = new Button(ButtonKind::prominent, "Apply");
+        auto* disabled = new Button(ButtonKind::prominent, "Apply");
+        auto* cancel = new Button(ButtonKind::bordered, "Cancel");
+        toggle->setChecked(true);
+        slider->setValue(52);
+        picker->addItems({"Lo-Fi", "Deep House", "Custom URL"});
+        picker->setFixedWidth(140);
+        number->setFixedWidth(50);
+        number->setText("25");
+        number->setAlignment(Qt::AlignCenter);
+        disabled->setEnabled(false);
+        disabledPlay->setEnabled(false);
+        view.setLayout(column({.spacing = 14, .padding = {24, 24, 24, 24}}, new TextLabel("Title", TextStyle::title),
+            new TextLabel("Durations", TextStyle::headline), toggle, off, slider, row({}, picker, play, disabledPlay),
+            field, row({}, number, new TextLabel("minutes", TextStyle::body, ColorName::secondaryLabel)),
+            new TextLabel("Automatically start the next phase when timer reaches 0", TextStyle::footnote,
+                ColorName::secondaryLabel),
+            new TextLabel(
+                "\u00a9 2026 The authors. All rights reserved.", TextStyle::footnote, ColorName::tertiaryLabel),
+            row({.spacing = 12}, cancel, apply, disabled)));
+        slider->setFixedWidth(300);
+        field->setFixedWidth(300);
+        view.show();
+        QApplication::setActiveWindow(&view);
+        view.setAttribute(Qt::WA_KeyboardFocusChange);
+        save(view, "controls");
+        for (QWidget* focused : std::initializer_list<QWidget*>{toggle, slider, picker, play, field, apply, cancel}) {
+            focused->setFocus(Qt::TabFocusReason);
+            save(view, QStringLiteral("controls-focus-%1").arg(m_focusPictures++));
+        }
+    }
+
+    void save(QWidget& view, const QString& name)
+    {
+        for (const auto theme : {Theme::light, Theme::dark, Theme::lightHighContrast, Theme::darkHighContrast}) {
+            QApplication::setPalette(paletteFor(theme));
+            QApplication::processEvents();
+            QImage image(
+                view.size() * view.devicePixelRatio() + QSize(48, 48) * view.devicePixelRatio(), QImage::Format_ARGB32);
+            image.setDevicePixelRatio(view.devicePixelRatio());
+            const bool isDark = theme == Theme::dark || theme == Theme::darkHighContrast;
+            image.fill(isDark ? QColor(0x12, 0x16, 0x1c) : QColor(0xb8, 0xc6, 0xd2));
+            QPainter painter(&image);
+            view.render(&painter, {24, 24}, {},
+                QWidget::DrawChildren
+                    | (view.inherits("velto::PanelContainerView") ? QWidget::RenderFlags()
+                                                                  : QWidget::DrawWindowBackground));
+            painter.end();
+            static const char* const suffixes[] = {"light", "dark", "light-contrast", "dark-contrast"};
+            image.save(QStringLiteral("%1/%2-%3@%4x.png")
+                           .arg(m_folder, name, suffixes[static_cast<int>(theme)])
+                           .arg(view.devicePixelRatio()));
+        }
+    }
+
+    QString m_folder;
+    int m_focusPictures = 0;
+};
+
+} // namespace
+
+} // namespace velto
+
+int main(int argc, char* argv[])
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    QApplication::setStyle("Fusion");
+    QFont font = QApplication::font();
+    font.setFamily(qEnvironmentVariable("VELTO_GALLERY_FONT", font.family()));
+    font.setPointSizeF(qEnvironmentVariable("VELTO_GALLERY_POINTS", "10").toDouble());
+    QApplication::setFont(font);
+    velto::Gallery(argc > 1 ? argv[1] : "gallery").drawAll();
+}
