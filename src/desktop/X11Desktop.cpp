@@ -33,6 +33,18 @@ xcb_window_t rootWindow()
     return xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
 }
 
+bool hasWindowManager()
+{
+    return !property(rootWindow(), atom("_NET_SUPPORTING_WM_CHECK")).empty();
+}
+
+bool hasCompositingManager()
+{
+    const auto cookie = xcb_get_selection_owner(connection(), atom("_NET_WM_CM_S0"));
+    const auto reply = owned(xcb_get_selection_owner_reply(connection(), cookie, nullptr));
+    return reply && reply->owner != XCB_WINDOW_NONE;
+}
+
 xcb_atom_t atom(std::string_view name)
 {
     const auto cookie = xcb_intern_atom(connection(), 0, static_cast<std::uint16_t>(name.size()), name.data());
@@ -66,6 +78,51 @@ std::optional<xcb_window_t> outermost(xcb_window_t window)
         if (reply->parent == reply->root || reply->parent == XCB_WINDOW_NONE)
             return window;
         window = reply->parent;
+    }
+}
+
+xcb_window_t focusedWindow()
+{
+    if (hasWindowManager()) {
+        const auto active = property(rootWindow(), atom("_NET_ACTIVE_WINDOW"));
+        return active.empty() ? xcb_window_t{XCB_WINDOW_NONE} : active.front();
+    }
+    const auto reply = owned(xcb_get_input_focus_reply(connection(), xcb_get_input_focus(connection()), nullptr));
+    return reply ? reply->focus : xcb_window_t{XCB_WINDOW_NONE};
+}
+
+void focus(xcb_window_t window)
+{
+    if (hasWindowManager()) {
+        constexpr std::uint32_t asPager = 2;
+        xcb_client_message_event_t request{};
+        request.response_type = XCB_CLIENT_MESSAGE;
+        request.format = 32;
+        request.window = window;
+        request.type = atom("_NET_ACTIVE_WINDOW");
+        request.data.data32[0] = asPager;
+        xcb_send_event(connection(), 0, rootWindow(),
+            XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+            reinterpret_cast<const char*>(&request));
+    } else {
+        xcb_set_input_focus(connection(), XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
+    }
+    xcb_flush(connection());
+}
+
+Pointer pointer()
+{
+    Pointer pointer;
+    for (xcb_window_t window = rootWindow();;) {
+        const auto reply
+            = owned(xcb_query_pointer_reply(connection(), xcb_query_pointer(connection(), window), nullptr));
+        if (!reply)
+            return pointer;
+        pointer.controlIsHeld = (reply->mask & XCB_MOD_MASK_CONTROL) != 0;
+        window = reply->child;
+        if (window == XCB_WINDOW_NONE)
+            return pointer;
+        pointer.windows.push_back(window);
     }
 }
 

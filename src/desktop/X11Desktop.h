@@ -14,6 +14,9 @@ namespace velto::x11 {
 /// Null when the application does not run on X11; then nothing else here may be called.
 [[nodiscard]] xcb_connection_t* connection();
 [[nodiscard]] xcb_window_t rootWindow();
+[[nodiscard]] bool hasWindowManager();
+/// Without one, translucent pixels are drawn as if they were opaque.
+[[nodiscard]] bool hasCompositingManager();
 [[nodiscard]] xcb_atom_t atom(std::string_view name);
 
 /// A property made of 32-bit items; empty when the window has none of that name.
@@ -23,5 +26,17 @@ void setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t type, const st
 /// The window's ancestor right below the root: its frame, if the window manager gave it one. Absent
 /// when the window is gone.
 [[nodiscard]] std::optional<xcb_window_t> outermost(xcb_window_t window);
+
+/// The window that gets the keys, as far as the window manager or else the server knows.
+[[nodiscard]] xcb_window_t focusedWindow();
+/// Asks for `window` to get the keys, whatever has them.
+void focus(xcb_window_t window);
+
+struct Pointer {
+    std::vector<xcb_window_t> windows; ///< Under it, outermost first; none where the desktop is bare.
+    bool controlIsHeld = false;
+};
+
+[[nodiscard]] Pointer pointer();
 
 } // namespace velto::x11

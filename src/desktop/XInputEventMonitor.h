@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "observation/Broadcast.h"
+#include "platform/EventMonitor.h"
+
+#include <QObject>
+
+#include <memory>
+
+class QSocketNotifier;
+struct _XDisplay;
+
+namespace velto {
+
+class ClickGesture;
+
+/// Sees every press on the X server, whoever holds a grab, through raw events of XInput 2.2.
+///
+/// Has a connection of its own, opened by the first monitor. The server is asked for events only while
+/// somebody watches or a gesture is under way.
+class XInputEventMonitor final : public QObject, public EventMonitor {
+    Q_OBJECT
+
+public:
+    /// `gesture` decides which presses are handed on, and when; it must outlive this.
+    explicit XInputEventMonitor(ClickGesture& gesture);
+    ~XInputEventMonitor() override;
+
+    [[nodiscard]] std::optional<Subscription> addOutsidePressMonitor(std::function<void()> handler) override;
+
+    /// As if there had been a press elsewhere: for what closes the panel where presses can't be seen.
+    void dismiss();
+
+private:
+    struct CloseDisplay {
+        void operator()(_XDisplay* display) const;
+    };
+
+    [[nodiscard]] bool connect();
+    void followInterest();
+    void readEvents();
+    void press(bool isSecondary);
+    [[nodiscard]] std::function<void()> watchers();
+
+    ClickGesture& m_gesture;
+    Broadcast<> m_presses;
+    std::unique_ptr<_XDisplay, CloseDisplay> m_display;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    int m_extension = 0;
+    bool m_isListening = false;
+};
+
+} // namespace velto
