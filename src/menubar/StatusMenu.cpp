@@ -21,6 +21,7 @@ std::shared_ptr<MenuItem> makeItem(std::string title, MenuItem::Action action, s
     auto item = std::make_shared<MenuItem>();
     item->title = std::move(title);
     item->action = std::move(action);
+    item->isCheckable = representedObject.has_value();
     item->representedObject = std::move(representedObject);
     return item;
 }
@@ -82,6 +83,7 @@ std::shared_ptr<Menu> StatusBarController::buildMenu()
     m_startPauseItem->action = [this](const MenuItem&) { toggleStartPause(); };
     m_resetItem->action = [this](const MenuItem&) { resetTimer(); };
     m_autoTransitionItem->title = "Auto-Transition";
+    m_autoTransitionItem->isCheckable = true;
     m_autoTransitionItem->action = [this](const MenuItem&) { toggleAutoTransition(); };
 
     auto menu = makeMenu("");

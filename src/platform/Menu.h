@@ -25,7 +25,8 @@ struct MenuItem {
 
     std::string title;
     bool isSeparator = false;
-    bool isOn = false; ///< Has a check mark.
+    bool isCheckable = false; ///< May have a check mark at some time.
+    bool isOn = false;        ///< Has a check mark now.
     bool isHidden = false;
     bool isEnabled = true;
     std::optional<Symbol> symbol;

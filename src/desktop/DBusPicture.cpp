@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/DBusPicture.h"
+
+#include <QtEndian>
+
+namespace velto {
+
+DBusPicture dbusPicture(const QImage& image)
+{
+    const auto pixels = image.convertToFormat(QImage::Format_ARGB32);
+    DBusPicture picture{pixels.width(), pixels.height(), QByteArray(pixels.width() * pixels.height() * 4, '\0')};
+    auto* out = picture.bytes.data();
+    for (int y = 0; y < pixels.height(); ++y) {
+        qToBigEndian<quint32>(pixels.constScanLine(y), pixels.width(), out);
+        out += pixels.width() * 4;
+    }
+    return picture;
+}
+
+QDBusArgument& operator<<(QDBusArgument& argument, const DBusPicture& picture)
+{
+    argument.beginStructure();
+    argument << picture.width << picture.height << picture.bytes;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, DBusPicture& picture)
+{
+    argument.beginStructure();
+    argument >> picture.width >> picture.height >> picture.bytes;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument& operator<<(QDBusArgument& argument, const DBusToolTip& toolTip)
+{
+    argument.beginStructure();
+    argument << toolTip.iconName << toolTip.pictures << toolTip.title << toolTip.text;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, DBusToolTip& toolTip)
+{
+    argument.beginStructure();
+    argument >> toolTip.iconName >> toolTip.pictures >> toolTip.title >> toolTip.text;
+    argument.endStructure();
+    return argument;
+}
+
+} // namespace velto

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Menu.h"
+
+#include <QObject>
+#include <QRect>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QAction;
+class QMenu;
+
+namespace velto {
+
+/// A menu drawn by the program itself.
+///
+/// Follows the values of the menu while it is open. Takes the keyboard without a window that has the
+/// focus. Main thread only.
+class PopUpMenu : public QObject {
+    Q_OBJECT
+
+public:
+    struct Handlers {
+        std::function<void()> opened;
+        std::function<void()> closed;
+    };
+
+    explicit PopUpMenu(Handlers handlers);
+    ~PopUpMenu() override;
+
+    void setMenu(std::shared_ptr<Menu> menu) { m_menu = std::move(menu); }
+    /// Values in the menu may have changed; what is on show follows in the next turn.
+    void menuDidChange();
+
+    /// Opens the menu, or does nothing while it is open: below `anchor`, above it where the screen ends.
+    /// Returns at once. As long as a mouse button is held the menu waits, since the press belongs to
+    /// somebody else. `anchor` is in the toolkit's coordinates.
+    void popUp(const QRect& anchor);
+    [[nodiscard]] bool isOpen() const { return m_shown != nullptr; }
+
+private:
+    struct Entry {
+        std::shared_ptr<MenuItem> item;
+        QAction* action;
+    };
+
+    void show();
+    void fill(QMenu& shown, const Menu& menu);
+    void refresh();
+    void chosen(const std::shared_ptr<MenuItem>& item);
+    void dismiss();
+
+    Handlers m_handlers;
+    std::shared_ptr<Menu> m_menu;
+    std::unique_ptr<QMenu> m_shown;
+    std::vector<Entry> m_entries;
+    QRect m_anchor;
+    QTimer m_refresh;
+    QTimer m_awaitRelease;
+};
+
+} // namespace velto

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QStringList>
+
+namespace velto {
+
+/// A panel bar's side of the bus: takes in items as long as it lives.
+class FakeWatcher : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
+    Q_PROPERTY(bool IsStatusNotifierHostRegistered MEMBER m_hasHost)
+
+public:
+    explicit FakeWatcher(bool hasHost = true) :
+        m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("watcher %1").arg(++m_count))),
+        m_hasHost(hasHost)
+    {
+        m_bus.registerObject(QStringLiteral("/StatusNotifierWatcher"), this, QDBusConnection::ExportScriptableContents);
+        m_bus.registerService(QStringLiteral("org.kde.StatusNotifierWatcher"));
+    }
+    ~FakeWatcher() override { QDBusConnection::disconnectFromBus(m_bus.name()); }
+
+    void setHasHost(bool hasHost)
+    {
+        m_hasHost = hasHost;
+        if (hasHost)
+            Q_EMIT StatusNotifierHostRegistered();
+        else
+            Q_EMIT StatusNotifierHostUnregistered();
+    }
+
+    QStringList items; ///< What has been registered, in order.
+
+public Q_SLOTS:
+    Q_SCRIPTABLE void RegisterStatusNotifierItem(const QString& service) { items.append(service); }
+
+Q_SIGNALS:
+    Q_SCRIPTABLE void StatusNotifierHostRegistered();
+    Q_SCRIPTABLE void StatusNotifierHostUnregistered();
+
+private:
+    inline static int m_count = 0;
+    QDBusConnection m_bus;
+    bool m_hasHost;
+};
+
+} // namespace velto
