@@ -129,7 +129,7 @@ class Velto:
 class VirtualDesktop:
     """See the module. `host` is the panel bar: one of hosts.HOSTS, or "none". `monitors` is a list of
     (width, height, x, y) inside `size`, the first being the main one; `bar_monitor` says which has the bar.
-    `scale` is the factor at which Qt draws, `dark` the colour scheme that the desktop asks for."""
+    `scale` is how many pixels a point has, `dark` the colour scheme that the desktop asks for."""
 
     def __init__(self, host="xfce", wm="xfwm4", size=(1280, 800), monitors=(), scale=1, dark=False,
                  compositing=False, bar_monitor=0, verbose=False):
@@ -182,6 +182,7 @@ class VirtualDesktop:
         }
         if self._scale != 1:
             self.environment["QT_SCALE_FACTOR"] = str(self._scale)
+            self.environment["GDK_SCALE"] = str(int(self._scale))
         if self.dark:
             self.environment["GTK_THEME"] = "Adwaita:dark"
         os.mkdir(self.path("config/pulse"))
