@@ -71,11 +71,11 @@ private:
 
         void removeDead()
         {
-            const auto dead
-                = std::ranges::stable_partition(subscribers, [](const auto& subscriber) { return subscriber->alive; });
+            const auto dead = std::stable_partition(
+                subscribers.begin(), subscribers.end(), [](const auto& subscriber) { return subscriber->alive; });
             // They go last, when the list is whole again: a handler may own other subscriptions to it.
-            const std::vector<std::shared_ptr<Subscriber>> gone(dead.begin(), dead.end());
-            subscribers.erase(dead.begin(), dead.end());
+            const std::vector<std::shared_ptr<Subscriber>> gone(dead, subscribers.end());
+            subscribers.erase(dead, subscribers.end());
         }
     };
 
