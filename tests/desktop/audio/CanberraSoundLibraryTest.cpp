@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/CanberraSoundLibrary.h"
+
+#include "LoopWatch.h"
+#include "Recording.h"
+#include "Resources.h"
+#include "SoundServer.h"
+
+#include <gtest/gtest.h>
+
+namespace velto {
+namespace {
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+// Frequencies that stand out in two of the sounds, and are absent from the other.
+constexpr double inTink = 2637;
+constexpr double inSubmarine = 460;
+constexpr double heard = 0.02;
+
+class CanberraSoundLibraryTest : public testing::Test {
+protected:
+    void TearDown() override
+    {
+        EXPECT_LE(loop.longestStall(), 50ms);
+        const auto start = Clock::now();
+        library.reset();
+        EXPECT_LT(Clock::now() - start, 1s);
+    }
+
+    SoundServer server;
+    LoopWatch loop;
+    std::unique_ptr<CanberraSoundLibrary> library = std::make_unique<CanberraSoundLibrary>(VELTO_SOUNDS);
+};
+
+TEST_F(CanberraSoundLibraryTest, KnowsExactlyTheFourteenNames)
+{
+    for (const auto* name : {"Basso", "Blow", "Bottle", "Frog", "Funk", "Glass", "Hero", "Morse", "Ping", "Pop", "Purr",
+             "Sosumi", "Submarine", "Tink"})
+        EXPECT_TRUE(library->soundNamed(name)) << name;
+
+    using namespace std::string_view_literals;
+    for (const auto name : {""sv, "None"sv, "tink"sv, "TINK"sv, "Tink "sv, " Tink"sv, "Tink.wav"sv, "Tin"sv,
+             "../sounds/Tink"sv, "./Tink"sv, "Tink\0"sv, "Tink.wav\0"sv, "."sv, "*"sv})
+        EXPECT_FALSE(library->soundNamed(name)) << name;
+}
+
+TEST_F(CanberraSoundLibraryTest, WithoutSoundsInstalledKnowsNoName)
+{
+    EXPECT_FALSE(CanberraSoundLibrary("/nowhere").soundNamed("Tink"));
+}
+
+TEST_F(CanberraSoundLibraryTest, FindsItsSoundsBesideTheExecutable)
+{
+    const auto folder = CanberraSoundLibrary::folderOf(QCoreApplication::applicationDirPath().toStdString());
+
+    EXPECT_TRUE(std::filesystem::equivalent(folder, VELTO_SOUNDS));
+}
+
+TEST_F(CanberraSoundLibraryTest, TouchesNothingBeforeTheFirstSound)
+{
+    const auto before = Resources::now();
+
+    CanberraSoundLibrary another(VELTO_SOUNDS);
+
+    EXPECT_EQ(Resources::now().threads, before.threads);
+    EXPECT_EQ(Resources::now().handles, before.handles);
+}
+
+TEST_F(CanberraSoundLibraryTest, PlaysInTheRoleOfEvents)
+{
+    server.start();
+    Recording recording;
+
+    library->soundNamed("Submarine")->play();
+
+    ASSERT_TRUE(eventually([&] { return recording.amplitude(inSubmarine) > heard; }));
+    const auto inputs = server.list("sink-inputs");
+    EXPECT_TRUE(inputs.contains("media.role = \"event\"")) << inputs.toStdString();
+    EXPECT_TRUE(inputs.contains("application.name = \"velto\"")) << inputs.toStdString();
+    EXPECT_TRUE(inputs.contains("application.id = \"org.velto.Velto\"")) << inputs.toStdString();
+    EXPECT_LT(recording.amplitude(inTink), heard / 4);
+}
+
+TEST_F(CanberraSoundLibraryTest, SoundsOverlap)
+{
+    server.start();
+    Recording recording;
+
+    library->soundNamed("Submarine")->play();
+    ASSERT_TRUE(eventually([&] { return recording.amplitude(inSubmarine) > heard; }));
+    library->soundNamed("Tink")->play();
+
+    ASSERT_TRUE(eventually([&] { return recording.amplitude(inTink, 50ms) > heard; }));
+    EXPECT_GT(recording.amplitude(inSubmarine), heard);
+}
+
+TEST_F(CanberraSoundLibraryTest, WithoutASoundServerNothingHappens)
+{
+    const auto before = Resources::now();
+    const auto sound = library->soundNamed("Tink");
+    sound->play();
+    ASSERT_TRUE(eventually([&] { return Resources::now().threads > before.threads; }));
+
+    const auto start = Clock::now();
+    for (int i = 0; i < 100; ++i)
+        sound->play();
+    EXPECT_LT(Clock::now() - start, 50ms);
+}
+
+TEST_F(CanberraSoundLibraryTest, IsHeardAsSoonAsASoundServerIsThere)
+{
+    library->soundNamed("Submarine")->play();
+    QTest::qWait(200);
+
+    server.start();
+    Recording recording;
+    library->soundNamed("Tink")->play();
+
+    ASSERT_TRUE(eventually([&] { return recording.amplitude(inTink, 50ms) > heard; }));
+    EXPECT_LT(recording.amplitude(inSubmarine), heard / 4) << "played late";
+}
+
+TEST_F(CanberraSoundLibraryTest, IsHeardAgainAfterTheSoundServerWasReplaced)
+{
+    server.start();
+    {
+        Recording recording;
+        library->soundNamed("Tink")->play();
+        ASSERT_TRUE(eventually([&] { return recording.amplitude(inTink, 50ms) > heard; }));
+    }
+
+    server.kill();
+    library->soundNamed("Tink")->play();
+    server.start();
+
+    Recording recording;
+    library->soundNamed("Submarine")->play();
+    ASSERT_TRUE(eventually([&] { return recording.amplitude(inSubmarine) > heard; }));
+}
+
+TEST_F(CanberraSoundLibraryTest, AHangingSoundServerHoldsUpNobodyAndIsNotFloodedLater)
+{
+    server.start();
+    library->soundNamed("Tink")->play();
+    ASSERT_TRUE(eventually([&] { return server.list("clients").contains("\"velto\""); }));
+
+    server.freeze();
+    const auto submarine = library->soundNamed("Submarine");
+    const auto start = Clock::now();
+    for (int i = 0; i < 100; ++i)
+        submarine->play();
+    EXPECT_LT(Clock::now() - start, 50ms);
+    QTest::qWait(1000);
+    server.thaw();
+
+    // One was on its way to the server when it froze; the rest is out of date.
+    Recording recording;
+    library->soundNamed("Tink")->play();
+    ASSERT_TRUE(eventually([&] { return recording.amplitude(inTink, 50ms) > heard; }));
+    EXPECT_LT(server.list("sink-inputs").count("Sink Input #"), 4);
+}
+
+TEST_F(CanberraSoundLibraryTest, GoesAtOnceWhileTheSoundServerHangs)
+{
+    server.start();
+    library->soundNamed("Tink")->play();
+    ASSERT_TRUE(eventually([&] { return server.list("clients").contains("\"velto\""); }));
+    server.freeze();
+    library->soundNamed("Tink")->play();
+    QTest::qWait(100);
+
+    const auto start = Clock::now();
+    library.reset();
+
+    EXPECT_LT(Clock::now() - start, 1s);
+    server.thaw();
+}
+
+} // namespace
+} // namespace velto

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include <QCoreApplication>
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    for (const char* name : {"http_proxy", "https_proxy", "all_proxy", "HTTP_PROXY", "HTTPS_PROXY", "ALL_PROXY"})
+        qunsetenv(name);
+    qputenv("GST_REGISTRY", VELTO_AUDIO_MATERIAL "/gst-registry.bin");
+    const QCoreApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
