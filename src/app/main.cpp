@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "app/Platform.h"
+#include "app/VeltoApp.h"
+#include "desktop/BuildBundle.h"
+#include "desktop/CanberraSoundLibrary.h"
+#include "desktop/DesktopStatusItem.h"
+#include "desktop/GstStreamPlayerFactory.h"
+#include "desktop/HelpAboutWindows.h"
+#include "desktop/PlistKeyValueStore.h"
+#include "desktop/QtApplication.h"
+#include "desktop/QtCalendar.h"
+#include "desktop/QtPanelWindow.h"
+#include "desktop/QtRunLoop.h"
+#include "desktop/QtScreens.h"
+#include "desktop/QtWorkspace.h"
+#include "desktop/SingleInstance.h"
+#include "desktop/XInputEventMonitor.h"
+#include "menubar/StatusBarController.h"
+#include "panel/ClickGesture.h"
+#include "panel/PanelContainerView.h"
+#include "style/Appearance.h"
+
+#include <QApplication>
+
+#include <csignal>
+
+namespace velto {
+
+namespace {
+
+/// Panels are placed, and presses elsewhere are seen, only on X11; other desktops serve it too.
+void preferX11()
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "xcb");
+}
+
+int run(QApplication& application)
+{
+    // Asked to show itself before there is anything to show, the program does so anyway.
+    std::function<void()> showTimer;
+    SingleInstance instance([&showTimer] {
+        if (showTimer)
+            showTimer();
+    });
+    if (!instance.claim())
+        return 0;
+
+    const Appearance appearance;
+    QtRunLoop runLoop;
+    QtScreens screens;
+    QtApplication desktopApplication;
+    QtWorkspace workspace;
+    QtCalendar calendar;
+    BuildBundle bundle;
+    PlistKeyValueStore defaults(PlistKeyValueStore::defaultPath());
+    CanberraSoundLibrary sounds(CanberraSoundLibrary::folderOf(QCoreApplication::applicationDirPath().toStdString()));
+    GstStreamPlayerFactory streamPlayers;
+    ClickGesture clickGesture(runLoop);
+    XInputEventMonitor eventMonitor(clickGesture);
+
+    Platform platform{
+        .runLoop = runLoop,
+        .defaults = defaults,
+        .sounds = sounds,
+        .streamPlayers = streamPlayers,
+        .screens = screens,
+        .eventMonitor = eventMonitor,
+        .application = desktopApplication,
+        .makeStatusItem =
+            [&] {
+                return std::make_unique<DesktopStatusItem>(
+                    clickGesture, [&](ClickEvent click, const std::function<void()>& action) {
+                        desktopApplication.dispatch(click, action);
+                    });
+            },
+        .makePanel =
+            [&](PomodoroTimer& timer, AppSettings& settings, Size size) {
+                return std::make_unique<QtPanelWindow>(
+                    std::make_unique<PanelContainerView>(
+                        timer, settings, size, runLoop, bundle, SettingsSheetFactory{}),
+                    [&] { eventMonitor.dismiss(); },
+                    qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ? QtPanelWindow::Focus::taken
+                                                                 : QtPanelWindow::Focus::leftAlone);
+            },
+        .makeHelpWindow = [&] { return makeHelpWindow(screens); },
+        .makeAboutWindow = [&] { return makeAboutWindow(screens, bundle, calendar, workspace); },
+    };
+    VeltoApp app(platform);
+    app.appDelegate().applicationDidFinishLaunching();
+    showTimer = [&app] { app.appDelegate().statusBarController->showTimer(); };
+    return application.exec();
+}
+
+} // namespace
+} // namespace velto
+
+int main(int argc, char* argv[])
+{
+    // What is printed may be read by nobody any more.
+    std::signal(SIGPIPE, SIG_IGN);
+    velto::preferX11();
+
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("velto"));
+    QApplication::setApplicationDisplayName(QStringLiteral("velto"));
+    QApplication::setDesktopFileName(QStringLiteral("org.velto.Velto"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    return velto::run(application);
+}
