@@ -58,9 +58,9 @@ protected:
     }
 
     CapturedOutput output;
+    ChangeLog log; // Written to until the last player is gone.
     FakeStreamPlayerFactory players;
     std::optional<MusicPlayer> music{players};
-    ChangeLog log;
 };
 
 TEST_F(MusicPlayerTest, BeginsIdle)

@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: MIT
+#include "panel/TimerPanelController.h"
+
+#include "core/PomodoroTimer.h"
+#include "settings/AppSettings.h"
+#include "support/FakePlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace velto {
+
+// Placement
+
+TEST(PlacePanelTest, HangsUnderTheButtonWithinTheUsableArea)
+{
+    struct Case {
+        const char* name;
+        std::optional<Rect> button;
+        Rect usable;
+        double x;
+        double y;
+    };
+    const Rect screen{0, 0, 1440, 877};
+    const Rect narrow{100, 0, 300, 877};
+    const Rect leftAndBelow{-1920, -200, 1920, 1055};
+    const std::vector<Case> cases{
+        {"centred under the button, six points below it", Rect{1200, 1080, 40, 22}, screen, 1040, 654},
+        {"a button of odd width", Rect{1200, 1080, 41, 22}, screen, 1040.5, 654},
+        {"touching the right edge", Rect{1240, 1080, 40, 22}, screen, 1080, 654},
+        {"near the right edge", Rect{1241, 1080, 40, 22}, screen, 1080, 654},
+        {"beyond the right edge", Rect{1430, 1080, 40, 22}, screen, 1080, 654},
+        {"touching the left edge", Rect{160, 1080, 40, 22}, screen, 0, 654},
+        {"near the left edge", Rect{159, 1080, 40, 22}, screen, 0, 654},
+        {"beyond the left edge", Rect{-20, 1080, 40, 22}, screen, 0, 654},
+        {"a bar on the left", Rect{0, 1080, 40, 22}, Rect{64, 0, 1376, 877}, 64, 654},
+        {"narrower than the panel: the left edge wins", Rect{200, 1080, 40, 22}, narrow, 100, 654},
+        {"narrower than the panel, button at the right", Rect{390, 1080, 40, 22}, narrow, 100, 654},
+        {"a bar at the bottom", Rect{600, 0, 40, 22}, screen, 440, 451},
+        {"twenty points above the bottom is enough", Rect{600, 446, 40, 22}, screen, 440, 20},
+        {"less is not", Rect{600, 445.5, 40, 22}, screen, 440, 451},
+        {"counted from the usable bottom", Rect{600, 495, 40, 22}, Rect{0, 50, 1440, 827}, 440, 451},
+        {"a short screen: the top counts, not the bottom", Rect{600, 300, 40, 22}, Rect{0, 0, 1440, 300}, 440, -126},
+        {"negative origin, right edge", Rect{-100, 833, 40, 22}, leftAndBelow, -360, 407},
+        {"negative origin, left edge", Rect{-1915, 833, 40, 22}, leftAndBelow, -1920, 407},
+        {"negative origin, just high enough", Rect{-1000, 246, 40, 22}, leftAndBelow, -1160, -180},
+        {"negative origin, too low", Rect{-1000, 245, 40, 22}, leftAndBelow, -1160, 429},
+        {"no button: top centre", std::nullopt, screen, 540, 451},
+        {"no button, negative origin", std::nullopt, leftAndBelow, -1140, 429},
+        {"no button, narrow: not limited", std::nullopt, narrow, 70, 451},
+        {"no button, short: not limited", std::nullopt, Rect{0, 0, 1440, 300}, 540, -126},
+    };
+    for (const auto& [name, button, usable, x, y] : cases) {
+        SCOPED_TRACE(name);
+
+        const auto placed = placePanel(button, usable, TimerPanelController::panelSize);
+
+        EXPECT_EQ(placed.x, x);
+        EXPECT_EQ(placed.y, y);
+        EXPECT_EQ(placed.size(), (Size{360, 420}));
+    }
+}
+
+// The controller
+
+class TimerPanelControllerTest : public testing::Test {
+protected:
+    void press() { world.eventMonitor.pressOutside(); }
+    [[nodiscard]] std::size_t monitors() const { return world.eventMonitor.installedMonitors(); }
+
+    FakePlatform world;
+    AppSettings settings{world.defaults, world.sounds};
+    PomodoroTimer timer{settings, world.runLoop, world.streamPlayers};
+    FakeStatusItemButton button;
+    std::vector<Size> sizesAskedFor;
+    TimerPanelController controller{timer, settings, world.screens, world.eventMonitor,
+        [this](PomodoroTimer& timerShown, AppSettings& settingsShown, Size size) {
+            EXPECT_EQ(&timerShown, &timer);
+            EXPECT_EQ(&settingsShown, &settings);
+            sizesAskedFor.push_back(size);
+            return world.platform.makePanel(timerShown, settingsShown, size);
+        }};
+};
+
+TEST_F(TimerPanelControllerTest, ThePanelIsMadeOnFirstAccessInItsSizeAndKept)
+{
+    EXPECT_TRUE(sizesAskedFor.empty());
+
+    auto& panel = controller.panel();
+    controller.show(&button);
+    controller.hide();
+
+    EXPECT_EQ(&panel, &controller.panel());
+    EXPECT_EQ(sizesAskedFor, std::vector<Size>{(Size{360, 420})});
+}
+
+TEST_F(TimerPanelControllerTest, ShowPlacesItAndBringsItToTheFront)
+{
+    controller.show(&button);
+
+    EXPECT_EQ(world.panel->frame, (Rect{1040, 654, 360, 420}));
+    EXPECT_TRUE(world.panel->isVisible());
+    EXPECT_EQ(world.panel->fronts, 1);
+    EXPECT_EQ(world.application.activations, 0);
+}
+
+TEST_F(TimerPanelControllerTest, ItIsPlacedAnewOnEveryShow)
+{
+    controller.show(&button);
+    button.rect = Rect{20, 1080, 40, 22};
+
+    controller.show(&button);
+
+    EXPECT_EQ(world.panel->frame, (Rect{0, 654, 360, 420}));
+    EXPECT_EQ(world.panel->fronts, 2);
+}
+
+TEST_F(TimerPanelControllerTest, TheScreenOfTheButtonCounts)
+{
+    world.screens.screens.push_back({.frame = {-1920, 0, 1920, 1080}, .visibleFrame = {-1920, 0, 1920, 1055}});
+    button.rect = Rect{-500, 1058, 40, 22};
+
+    controller.show(&button);
+
+    EXPECT_EQ(world.panel->frame, (Rect{-660, 632, 360, 420}));
+}
+
+TEST_F(TimerPanelControllerTest, AButtonOnNoScreenHangsOnTheMainOne)
+{
+    button.rect = Rect{9000, 1080, 40, 22};
+
+    controller.show(&button);
+
+    EXPECT_EQ(world.panel->frame, (Rect{1080, 654, 360, 420}));
+}
+
+TEST_F(TimerPanelControllerTest, WithoutAButtonItHangsAtTheTopCentreOfTheMainScreen)
+{
+    const Rect topCentre{540, 451, 360, 420};
+
+    controller.show(nullptr);
+    EXPECT_EQ(world.panel->frame, topCentre);
+
+    world.panel->frame = {};
+    button.rect.reset();
+    controller.show(&button);
+    EXPECT_EQ(world.panel->frame, topCentre);
+    EXPECT_EQ(monitors(), 1U);
+}
+
+TEST_F(TimerPanelControllerTest, WithoutAScreenItIsShownWhereItWasAndNothingWatches)
+{
+    world.screens.screens.clear();
+
+    for (const auto* shownUnder : {&button, static_cast<FakeStatusItemButton*>(nullptr)}) {
+        controller.show(shownUnder);
+
+        EXPECT_TRUE(world.panel->isVisible());
+        EXPECT_EQ(world.panel->placements, 0);
+        EXPECT_EQ(world.eventMonitor.requests, 0);
+    }
+}
+
+TEST_F(TimerPanelControllerTest, APressOutsideHidesItAndEndsTheWatch)
+{
+    controller.show(&button);
+    EXPECT_EQ(monitors(), 1U);
+
+    press();
+
+    EXPECT_FALSE(world.panel->isVisible());
+    EXPECT_EQ(monitors(), 0U);
+}
+
+TEST_F(TimerPanelControllerTest, AfterAPressOutsideItCanBeShownAndHiddenAgain)
+{
+    controller.show(&button);
+    press();
+
+    controller.show(&button);
+    press();
+
+    EXPECT_EQ(world.eventMonitor.requests, 2);
+    EXPECT_FALSE(world.panel->isVisible());
+    EXPECT_EQ(world.panel->outs, 2);
+}
+
+TEST_F(TimerPanelControllerTest, ShownTwiceOneMonitorIsInstalledAndHideRemovesIt)
+{
+    controller.show(&button);
+    controller.show(&button);
+    EXPECT_EQ(world.eventMonitor.requests, 1);
+    EXPECT_EQ(monitors(), 1U);
+
+    controller.hide();
+    EXPECT_EQ(monitors(), 0U);
+}
+
+TEST_F(TimerPanelControllerTest, WhenPressesCannotBeWatchedTheNextShowTriesAgain)
+{
+    world.eventMonitor.available = false;
+    controller.show(&button);
+    EXPECT_TRUE(world.panel->isVisible());
+
+    world.eventMonitor.available = true;
+    controller.show(&button);
+
+    EXPECT_EQ(world.eventMonitor.requests, 2);
+    EXPECT_EQ(monitors(), 1U);
+}
+
+TEST_F(TimerPanelControllerTest, HidingAHiddenPanelIsHarmless)
+{
+    controller.hide();
+    controller.hide();
+
+    EXPECT_EQ(sizesAskedFor.size(), 1U) << "made by the first hide";
+    EXPECT_FALSE(world.panel->isVisible());
+}
+
+} // namespace velto
