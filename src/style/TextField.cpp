@@ -6,6 +6,7 @@
 #include "style/TextStyle.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace velto {
@@ -59,6 +60,13 @@ void TextField::paintEvent(QPaintEvent* event)
             drawFocusRing(painter, rect(), cornerRadius, color(ColorName::accent, *this));
     }
     QLineEdit::paintEvent(event);
+}
+
+void TextField::keyPressEvent(QKeyEvent* event)
+{
+    QLineEdit::keyPressEvent(event);
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        event->accept();
 }
 
 } // namespace velto

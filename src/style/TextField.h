@@ -5,7 +5,7 @@
 
 namespace velto {
 
-/// One line of text to edit, in a rounded border. Shows its focus however it came.
+/// One line of text to edit, in a rounded border. Shows its focus however it came. Return stays with it.
 class TextField : public QLineEdit {
     Q_OBJECT
 
@@ -19,6 +19,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 };
 
 } // namespace velto

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "settings_form/EditableNumberField.h"
+
+#include <QFocusEvent>
+
+#include <algorithm>
+
+namespace velto {
+
+EditableNumberField::EditableNumberField(const QString& name, Published<std::int64_t>& value) :
+    m_number(value, &QChar::isNumber)
+{
+    setAccessibleName(name);
+    setAlignment(Qt::AlignHCenter);
+
+    connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
+        m_number.setText(text.toStdU32String());
+        showText();
+    });
+    m_valueChanges = value.changes([this](std::int64_t) { showText(); });
+}
+
+void EditableNumberField::endEditing()
+{
+    m_number.endEditing();
+    showText();
+}
+
+void EditableNumberField::focusOutEvent(QFocusEvent* event)
+{
+    TextField::focusOutEvent(event);
+    // The field's own menu is no reason to stop.
+    if (event->reason() != Qt::PopupFocusReason)
+        endEditing();
+}
+
+void EditableNumberField::showText()
+{
+    const auto wanted = QString::fromStdU32String(m_number.text());
+    if (wanted == text())
+        return;
+    // What was dropped stood before the cursor.
+    const auto behindCursor = text().size() - cursorPosition();
+    setText(wanted);
+    setCursorPosition(static_cast<int>(std::max<qsizetype>(wanted.size() - behindCursor, 0)));
+}
+
+} // namespace velto
