@@ -5,6 +5,7 @@
 #include "style/TextStyle.h"
 
 #include <QFontMetricsF>
+#include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -18,8 +19,21 @@ namespace {
 constexpr int viewHeight = 68;
 /// Between the two widest digits side by side, in parts of the font's size.
 constexpr double digitGap = 0.09;
-/// How far a digit rolls, in parts of the font's size.
-constexpr double rollDistance = 0.4;
+/// How far a digit rolls, in parts of the font's size: past the one that follows it.
+constexpr double rollDistance = 0.8;
+/// The part of the view next to its upper and lower edge where digits that roll fade.
+constexpr double fadingEdge = 10;
+
+/// For a painter whose origin is the middle of the view.
+QBrush fadingAtTheEdges(const QColor& color)
+{
+    auto nothing = color;
+    nothing.setAlpha(0);
+    QLinearGradient gradient(0, -viewHeight / 2.0, 0, viewHeight / 2.0);
+    gradient.setStops(
+        {{0, nothing}, {fadingEdge / viewHeight, color}, {1 - fadingEdge / viewHeight, color}, {1, nothing}});
+    return gradient;
+}
 
 } // namespace
 
@@ -89,13 +103,15 @@ void RollingTime::paintEvent(QPaintEvent*)
     painter.translate(width() / 2.0, height() / 2.0);
     painter.scale(scale(), scale());
     painter.setPen(Qt::NoPen);
-    painter.setBrush(color(ColorName::label, *this));
+    const auto resting = color(ColorName::label, *this);
+    const auto rolling = fadingAtTheEdges(resting);
     for (const auto& glyph : glyphs()) {
         // Centred by what is seen: a colon between the digits, not on their base line.
         const auto ink = metrics.tightBoundingRect(QString(glyph.character)).center();
         const double middle = glyph.character.isDigit() ? digitMiddle : ink.y();
         QPainterPath outline;
         outline.addText(glyph.center - QPointF(ink.x(), middle), font, glyph.character);
+        painter.setBrush(glyph.center.y() == 0 ? QBrush(resting) : rolling);
         painter.setOpacity(glyph.opacity);
         painter.drawPath(outline);
     }

@@ -6,6 +6,7 @@
 #include "settings/AppSettings.h"
 #include "style/Button.h"
 #include "style/Colors.h"
+#include "style/Motion.h"
 #include "style/PopUpPicker.h"
 #include "style/Slider.h"
 #include "style/Stack.h"
@@ -19,6 +20,7 @@
 #include "support/FakeSoundLibrary.h"
 #include "support/FakeStreamPlayerFactory.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDir>
 #include <QImage>
@@ -51,6 +53,14 @@ public:
             timer.start();
             loop.advance(72s);
         });
+        card("rolling", 20, 5, {}, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
+            timer.start();
+            loop.advance(1s);
+        });
+        card("fading", 25, 5, {}, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
+            timer.switchToPhase(PomodoroPhase::breakTime);
+            loop.runTurns();
+        });
         card("end", 25, 5, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
             timer.start();
             loop.advance(1500s);
@@ -65,8 +75,11 @@ public:
     }
 
 private:
-    void card(const QString& name, std::int64_t focusMinutes, std::int64_t breakMinutes,
-        const std::function<void(PomodoroTimer&, FakeRunLoop&)>& arrange)
+    using Arrangement = std::function<void(PomodoroTimer&, FakeRunLoop&)>;
+
+    /// `move` happens before the eyes of the user and is halfway in the picture.
+    void card(const QString& name, std::int64_t focusMinutes, std::int64_t breakMinutes, const Arrangement& arrange,
+        const Arrangement& move = {})
     {
         FakeKeyValueStore store;
         store.values["focusMinutes"] = focusMinutes;
@@ -81,6 +94,16 @@ private:
         if (arrange)
             arrange(timer, runLoop);
         view.show();
+        if (move) {
+            view.grab();
+            move(timer, runLoop);
+            for (auto* motion : view.findChildren<Motion*>()) {
+                if (motion->state() != QAbstractAnimation::Running)
+                    continue;
+                motion->setCurrentTime(Motion::usualDuration / 2);
+                motion->pause();
+            }
+        }
         save(view, "card-" + name);
     }
 
@@ -125,6 +148,8 @@ private:
             focused->setFocus(Qt::TabFocusReason);
             save(view, QStringLiteral("controls-focus-%1").arg(m_focusPictures++));
         }
+        picker->showPopup();
+        save(*picker->view()->window(), "popup");
     }
 
     void save(QWidget& view, const QString& name)
@@ -164,6 +189,7 @@ int main(int argc, char* argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     QApplication::setStyle("Fusion");
+    QApplication::setEffectEnabled(Qt::UI_General, true);
     QFont font = QApplication::font();
     font.setFamily(qEnvironmentVariable("VELTO_GALLERY_FONT", font.family()));
     font.setPointSizeF(qEnvironmentVariable("VELTO_GALLERY_POINTS", "10").toDouble());
