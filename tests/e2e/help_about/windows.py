@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """What the window manager knows of the program's windows."""
 import re
+import subprocess
 
 from desktop import wait_for
 
@@ -24,8 +25,12 @@ def properties(desktop, window, *names):
 def wait_for_focus(desktop, velto):
     """The X window of `velto` that the user types into, once there is one."""
     def focused():
-        window = desktop.focused_window
-        return window if properties(desktop, window, "_NET_WM_PID").endswith(f"= {velto.pid}\n") else None
+        window = desktop.focused_window.split(",")[0]
+        try:
+            owner = properties(desktop, window, "_NET_WM_PID")
+        except subprocess.CalledProcessError:
+            return None  # no window, or one that has just gone
+        return window if owner.endswith(f"= {velto.pid}\n") else None
     return wait_for(focused, what="a window of velto with the focus")
 
 
