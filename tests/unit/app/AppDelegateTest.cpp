@@ -78,6 +78,7 @@ TEST_F(AppDelegateTest, ThePanelComesAfterFourTenthsOfASecondAndTheWelcomeAfterS
     world.runLoop.advance(399ms);
     EXPECT_EQ(world.panel, nullptr);
     world.runLoop.advance(1ms);
+    ASSERT_NE(world.panel, nullptr);
     EXPECT_TRUE(world.panel->isVisible());
     EXPECT_EQ(world.panel->frame, (Rect{1040, 654, 360, 420}));
 

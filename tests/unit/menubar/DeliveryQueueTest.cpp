@@ -38,6 +38,17 @@ TEST_F(DeliveryQueueTest, DeliversInOrderInTheNextTurnWithOneWakeUp)
     EXPECT_EQ(loop.waitingWorks(), 0U);
 }
 
+TEST_F(DeliveryQueueTest, KeepsThePlaceInTheTurnThatTheFirstOneTook)
+{
+    add("a");
+    const auto other = loop.nextTurn([this] { delivered.emplace_back("other"); });
+    add("b");
+
+    loop.runTurns();
+
+    EXPECT_EQ(delivered, (Lines{"a", "b", "other"}));
+}
+
 TEST_F(DeliveryQueueTest, WhatIsAddedDuringADeliveryComesInTheTurnAfter)
 {
     queue->add([this] {
