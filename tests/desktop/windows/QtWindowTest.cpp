@@ -36,6 +36,7 @@ struct Shown {
         window->makeKeyAndOrderFront();
         EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
     }
+    ~Shown() { delete dialog; }
 
     QtScreens screens;
     std::unique_ptr<QtWindow> window;
