@@ -3,8 +3,8 @@
 
 #include "desktop/QtScreens.h"
 
-#include <QGuiApplication>
 #include <QDialog>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QPointer>
 #include <QScreen>
