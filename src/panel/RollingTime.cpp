@@ -2,23 +2,18 @@
 #include "panel/RollingTime.h"
 
 #include "style/Colors.h"
-#include "style/TextStyle.h"
 
-#include <QFontMetricsF>
+#include <QEvent>
 #include <QLinearGradient>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
-#include <cmath>
 
 namespace velto {
 
 namespace {
 
 constexpr int viewHeight = 68;
-/// Between the two widest digits side by side, in parts of the font's size.
-constexpr double digitGap = 0.09;
 /// How far a digit rolls, in parts of the font's size: past the one that follows it.
 constexpr double rollDistance = 0.8;
 /// The part of the view next to its upper and lower edge where digits that roll fade.
@@ -50,7 +45,10 @@ void RollingTime::setTime(const QString& text, double fontSize)
     const bool isSameShape = text.size() == m_text.size() && fontSize == m_fontSize;
     m_previous = isSameShape ? m_text : QString();
     m_text = text;
-    m_fontSize = fontSize;
+    if (fontSize != m_fontSize) {
+        m_fontSize = fontSize;
+        m_glyphs = ClockGlyphs(fontSize);
+    }
     if (isSameShape) {
         run(m_roll);
         redrawRolling();
@@ -68,7 +66,7 @@ std::vector<RollingTime::Glyph> RollingTime::glyphs() const
     const double distance = rollDistance * m_fontSize;
     double x = -textWidth() / 2;
     for (int i = 0; i < m_text.size(); ++i) {
-        const double width = cellWidth(m_text[i]);
+        const double width = m_glyphs.cellWidth(m_text[i]);
         const double middle = x + width / 2;
         x += width;
         if (rolled < 1 && rolls(i)) {
@@ -81,23 +79,17 @@ std::vector<RollingTime::Glyph> RollingTime::glyphs() const
     return result;
 }
 
-double RollingTime::cellWidth(QChar character) const
+bool RollingTime::event(QEvent* event)
 {
-    const QFontMetricsF metrics(clockFont(m_fontSize));
-    if (!character.isDigit())
-        return metrics.horizontalAdvance(character);
-    double widest = 0;
-    for (char16_t digit = u'0'; digit <= u'9'; ++digit)
-        widest = std::max(widest, metrics.tightBoundingRect(QString(QChar(digit))).width());
-    return widest + digitGap * m_fontSize;
+    if (event->type() == QEvent::ApplicationFontChange) {
+        m_glyphs = ClockGlyphs(m_fontSize);
+        update();
+    }
+    return AnimatedView::event(event);
 }
 
 void RollingTime::paintEvent(QPaintEvent*)
 {
-    const auto font = clockFont(m_fontSize);
-    const QFontMetricsF metrics(font);
-    const double digitMiddle = metrics.tightBoundingRect(QStringLiteral("0")).center().y();
-
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(width() / 2.0, height() / 2.0);
@@ -106,14 +98,9 @@ void RollingTime::paintEvent(QPaintEvent*)
     const auto resting = color(ColorName::label, *this);
     const auto rolling = fadingAtTheEdges(resting);
     for (const auto& glyph : glyphs()) {
-        // Centred by what is seen: a colon between the digits, not on their base line.
-        const auto ink = metrics.tightBoundingRect(QString(glyph.character)).center();
-        const double middle = glyph.character.isDigit() ? digitMiddle : ink.y();
-        QPainterPath outline;
-        outline.addText(glyph.center - QPointF(ink.x(), middle), font, glyph.character);
         painter.setBrush(glyph.center.y() == 0 ? QBrush(resting) : rolling);
         painter.setOpacity(glyph.opacity);
-        painter.drawPath(outline);
+        painter.drawPath(m_glyphs.outline(glyph.character).translated(glyph.center));
     }
 }
 
@@ -121,7 +108,7 @@ double RollingTime::textWidth() const
 {
     double width = 0;
     for (const auto character : m_text)
-        width += cellWidth(character);
+        width += m_glyphs.cellWidth(character);
     return width;
 }
 
@@ -139,7 +126,7 @@ void RollingTime::redrawRolling()
 {
     double x = width() / 2.0 - textWidth() / 2 * scale();
     for (int i = 0; i < m_text.size(); ++i) {
-        const double cell = cellWidth(m_text[i]) * scale();
+        const double cell = m_glyphs.cellWidth(m_text[i]) * scale();
         if (rolls(i))
             update(QRectF(x, 0, cell, height()).toAlignedRect().adjusted(-2, 0, 2, 0));
         x += cell;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "panel/ClockGlyphs.h"
 #include "style/AnimatedView.h"
 #include "style/Motion.h"
 
@@ -35,13 +36,15 @@ public:
 
     /// All that is drawn just now.
     [[nodiscard]] std::vector<Glyph> glyphs() const;
-    [[nodiscard]] double cellWidth(QChar character) const;
+    /// The sum of all cells, before anything is drawn smaller.
+    [[nodiscard]] double textWidth() const;
+
+    bool event(QEvent* event) override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    [[nodiscard]] double textWidth() const;
     [[nodiscard]] double scale() const;
     [[nodiscard]] bool rolls(int index) const;
     void redrawRolling();
@@ -49,6 +52,7 @@ private:
     QString m_text;
     QString m_previous; ///< As long as `m_text`, or empty when nothing rolls.
     double m_fontSize = 64;
+    ClockGlyphs m_glyphs{m_fontSize};
     Motion m_roll{QEasingCurve::InOutCubic, this};
 };
 
