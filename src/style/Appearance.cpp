@@ -80,6 +80,8 @@ void Appearance::askPortal(QDBusConnection bus)
     if (!bus.isConnected())
         return;
     qDBusRegisterMetaType<SettingGroups>();
+    // A slot that takes one is found only once the type is known.
+    qRegisterMetaType<QDBusVariant>();
     // From any sender: naming one would ask the bus for its owner and wait.
     bus.connect({}, path, interface, QStringLiteral("SettingChanged"), this,
         SLOT(settingChanged(QString, QString, QDBusVariant)));

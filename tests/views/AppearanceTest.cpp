@@ -175,6 +175,16 @@ TEST_F(AppearanceTest, ReducedMotionIsFollowedLive)
     EXPECT_FALSE(mayAnimate(widget));
 }
 
+TEST_F(AppearanceTest, APortalThatComesLaterIsHeard)
+{
+    Appearance subject{bus.connection("program")};
+    FakePortal portal{bus.connection("portal")};
+    EXPECT_EQ(shownTheme(), Theme::light);
+
+    portal.change(appearance, "color-scheme", 1u);
+    ASSERT_TRUE(comesTo(Theme::dark));
+}
+
 TEST_F(AppearanceTest, SettingsThatMeanNothingHereChangeNothing)
 {
     FakePortal portal{bus.connection("portal")};
