@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/FloatingWindow.h"
+
+#include "desktop/X11Desktop.h"
+#include "style/ContinuousRect.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <algorithm>
+#include <utility>
+
+#include <xcb/xfixes.h>
+
+namespace velto {
+
+namespace {
+
+constexpr double cornerRadius = 18;
+
+bool takesText(const QWidget* widget)
+{
+    return widget && widget->testAttribute(Qt::WA_InputMethodEnabled) && widget->focusPolicy() != Qt::NoFocus;
+}
+
+/// Whether `widget` belongs to `window`, be it in one of its pop-ups.
+bool isWithin(const QWidget* window, const QWidget* widget)
+{
+    while (widget && widget != window)
+        widget = widget->parentWidget();
+    return widget != nullptr;
+}
+
+} // namespace
+
+FloatingWindow::FloatingWindow(
+    std::unique_ptr<QWidget> content, std::function<void()> dismiss, Focus focus, QWidget* parent) :
+    QWidget(parent,
+        Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint
+            | (focus == Focus::taken ? Qt::WindowFlags{} : Qt::WindowDoesNotAcceptFocus)),
+    m_dismiss(std::move(dismiss)),
+    m_focus(focus)
+{
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_X11NetWmWindowTypeNotification);
+    setAttribute(Qt::WA_ShowWithoutActivating, focus != Focus::taken);
+    setWindowTitle(QApplication::applicationDisplayName());
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(content.release());
+
+    winId();
+    if (focus != Focus::taken)
+        watchUse();
+    if (x11::connection())
+        watchCompositing();
+}
+
+void FloatingWindow::orderFront()
+{
+    show();
+    raise();
+    if (m_focus == Focus::taken)
+        activateWindow();
+}
+
+void FloatingWindow::setVisible(bool visible)
+{
+    // A window manager forgets what a hidden window was.
+    if (visible && !isVisible() && x11::connection())
+        announceState();
+    if (!visible)
+        setAcceptsFocus(false);
+    QWidget::setVisible(visible);
+}
+
+bool FloatingWindow::nativeEventFilter(const QByteArray& /*eventType*/, void* message, qintptr* /*result*/)
+{
+    const auto* event = static_cast<const xcb_generic_event_t*>(message);
+    if ((event->response_type & 0x7f) == m_selectionEvent)
+        followCompositing();
+    return false;
+}
+
+void FloatingWindow::paintEvent(QPaintEvent* /*event*/)
+{
+    if (!m_isComposited)
+        QPainter(this).fillRect(rect(), palette().window());
+}
+
+void FloatingWindow::resizeEvent(QResizeEvent* /*event*/)
+{
+    followShape();
+}
+
+void FloatingWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Cancel))
+        m_dismiss();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+bool FloatingWindow::event(QEvent* event)
+{
+    const bool isHandled = QWidget::event(event);
+    if (event->type() == QEvent::WindowDeactivate && m_focus == Focus::taken && isVisible()
+        && !isWithin(this, QApplication::activeWindow()))
+        m_dismiss();
+    return isHandled;
+}
+
+bool FloatingWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == windowHandle() && event->type() == QEvent::MouseButtonPress)
+        setAcceptsFocus(needsKeyboard(childAt(static_cast<QMouseEvent*>(event)->position().toPoint())));
+    return QWidget::eventFilter(watched, event);
+}
+
+/// Keys can only be pressed where the keyboard is: what is used fetches it.
+void FloatingWindow::watchUse()
+{
+    windowHandle()->installEventFilter(this);
+    connect(windowHandle(), &QWindow::focusObjectChanged, this, [this](QObject* now) {
+        if (needsKeyboard(qobject_cast<QWidget*>(now)))
+            setAcceptsFocus(true);
+    });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) {
+        if (!isWithin(this, now))
+            setAcceptsFocus(false);
+    });
+}
+
+bool FloatingWindow::needsKeyboard(const QWidget* widget) const
+{
+    if (m_focus == Focus::leftAlone)
+        return takesText(widget);
+    while (widget && widget != this && !(widget->isEnabled() && widget->focusPolicy() & Qt::ClickFocus))
+        widget = widget->parentWidget();
+    return widget && widget != this;
+}
+
+void FloatingWindow::setAcceptsFocus(bool accepts)
+{
+    if (m_focus == Focus::taken || accepts == m_acceptsFocus)
+        return;
+    m_acceptsFocus = accepts;
+    const bool wasActive = isActiveWindow();
+    // Sets the input hint in place, without mapping the window again.
+    windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus, !accepts);
+    if (!x11::connection())
+        return;
+
+    const auto self = static_cast<xcb_window_t>(winId());
+    const xcb_atom_t protocols = x11::atom("WM_PROTOCOLS");
+    const xcb_atom_t takeFocus = x11::atom("WM_TAKE_FOCUS");
+    auto names = x11::property(self, protocols);
+    std::erase(names, takeFocus);
+    if (accepts)
+        names.push_back(takeFocus);
+    x11::setProperty(self, protocols, XCB_ATOM_ATOM, names);
+
+    if (accepts) {
+        m_previouslyFocused = x11::focusedWindow();
+        x11::focus(self);
+    } else if (wasActive && m_previouslyFocused != XCB_WINDOW_NONE) {
+        x11::focus(m_previouslyFocused);
+    }
+}
+
+void FloatingWindow::announceState()
+{
+    const auto self = static_cast<xcb_window_t>(winId());
+    x11::setProperty(self, x11::atom("_NET_WM_STATE"), XCB_ATOM_ATOM,
+        {x11::atom("_NET_WM_STATE_ABOVE"), x11::atom("_NET_WM_STATE_STICKY"), x11::atom("_NET_WM_STATE_SKIP_TASKBAR"),
+            x11::atom("_NET_WM_STATE_SKIP_PAGER")});
+    constexpr std::uint32_t everyWorkspace = 0xffffffff;
+    x11::setProperty(self, x11::atom("_NET_WM_DESKTOP"), XCB_ATOM_CARDINAL, {everyWorkspace});
+}
+
+void FloatingWindow::watchCompositing()
+{
+    xcb_connection_t* connection = x11::connection();
+    const auto* extension = xcb_get_extension_data(connection, &xcb_xfixes_id);
+    if (extension && extension->present) {
+        m_selectionEvent = extension->first_event + XCB_XFIXES_SELECTION_NOTIFY;
+        xcb_xfixes_select_selection_input(connection, static_cast<xcb_window_t>(winId()), x11::atom("_NET_WM_CM_S0"),
+            XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER
+                | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY
+                | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
+        qApp->installNativeEventFilter(this);
+    }
+    followCompositing();
+}
+
+void FloatingWindow::followCompositing()
+{
+    const bool isComposited = x11::hasCompositingManager();
+    if (std::exchange(m_isComposited, isComposited) == isComposited)
+        return;
+    followShape();
+    update();
+}
+
+void FloatingWindow::followShape()
+{
+    if (m_isComposited)
+        clearMask();
+    else
+        setMask(QRegion(continuousRoundedRect(rect(), cornerRadius).toFillPolygon().toPolygon()));
+}
+
+} // namespace velto

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAbstractNativeEventFilter>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+#include <xcb/xcb.h>
+
+namespace velto {
+
+/// Floats a widget above all other windows, on every workspace and in no task bar.
+///
+/// Without a compositing manager the window is opaque and cut to its shape.
+class FloatingWindow : public QWidget, public QAbstractNativeEventFilter {
+    Q_OBJECT
+
+public:
+    /// When it has the keyboard. Showing it takes it from nobody, but for `taken`.
+    enum class Focus {
+        leftAlone, ///< While a text field of the content is being edited.
+        whenUsed,  ///< From the use of a control of the content to a press beside the controls.
+        taken,     ///< By showing. Losing it dismisses the window: for desktops where presses elsewhere can't be seen.
+    };
+
+    /// `dismiss` runs for Escape, unless the content has used it, and for the loss of a taken focus.
+    FloatingWindow(
+        std::unique_ptr<QWidget> content, std::function<void()> dismiss, Focus focus, QWidget* parent = nullptr);
+
+    void orderFront();
+
+    void setVisible(bool visible) override;
+    bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void watchUse();
+    [[nodiscard]] bool needsKeyboard(const QWidget* widget) const;
+    void setAcceptsFocus(bool accepts);
+    void announceState();
+    void watchCompositing();
+    void followCompositing();
+    void followShape();
+
+    std::function<void()> m_dismiss;
+    Focus m_focus;
+    bool m_acceptsFocus = false;
+    bool m_isComposited = true;
+    int m_selectionEvent = -1;
+    xcb_window_t m_previouslyFocused = XCB_WINDOW_NONE;
+};
+
+} // namespace velto
