@@ -13,11 +13,13 @@
 #include "desktop/QtRunLoop.h"
 #include "desktop/QtScreens.h"
 #include "desktop/QtWorkspace.h"
+#include "desktop/SheetWindow.h"
 #include "desktop/SingleInstance.h"
 #include "desktop/XInputEventMonitor.h"
 #include "menubar/StatusBarController.h"
 #include "panel/ClickGesture.h"
 #include "panel/PanelContainerView.h"
+#include "settings_form/SettingsSheet.h"
 #include "style/Appearance.h"
 
 #include <QApplication>
@@ -59,6 +61,16 @@ int run(QApplication& application)
     ClickGesture clickGesture(runLoop);
     XInputEventMonitor eventMonitor(clickGesture);
 
+    const auto focus = qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ? FloatingWindow::Focus::taken
+                                                                    : FloatingWindow::Focus::leftAlone;
+    const auto hidePanel = [&] { eventMonitor.dismiss(); };
+    const auto makeSettingsSheet
+        = [&](AppSettings& settings, PomodoroTimer& timer, QWidget& presenter, std::function<void()> dismiss) {
+              return std::make_unique<SheetWindow>(
+                  std::make_unique<SettingsSheet>(settings, timer, runLoop, std::move(dismiss)), presenter, screens,
+                  hidePanel, focus == FloatingWindow::Focus::taken ? focus : FloatingWindow::Focus::whenUsed);
+          };
+
     Platform platform{
         .runLoop = runLoop,
         .defaults = defaults,
@@ -77,11 +89,8 @@ int run(QApplication& application)
         .makePanel =
             [&](PomodoroTimer& timer, AppSettings& settings, Size size) {
                 return std::make_unique<QtPanelWindow>(
-                    std::make_unique<PanelContainerView>(
-                        timer, settings, size, runLoop, bundle, SettingsSheetFactory{}),
-                    [&] { eventMonitor.dismiss(); },
-                    qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ? QtPanelWindow::Focus::taken
-                                                                 : QtPanelWindow::Focus::leftAlone);
+                    std::make_unique<PanelContainerView>(timer, settings, size, runLoop, bundle, makeSettingsSheet),
+                    hidePanel, focus);
             },
         .makeHelpWindow = [&] { return makeHelpWindow(screens); },
         .makeAboutWindow = [&] { return makeAboutWindow(screens, bundle, calendar, workspace); },

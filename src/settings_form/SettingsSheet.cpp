@@ -165,8 +165,7 @@ void SettingsSheet::keyPressEvent(QKeyEvent* event)
 void SettingsSheet::mousePressEvent(QMouseEvent* event)
 {
     QWidget::mousePressEvent(event);
-    if (auto* focused = focusWidget())
-        focused->clearFocus();
+    setFocus();
 }
 
 void SettingsSheet::resizeEvent(QResizeEvent* event)

@@ -90,6 +90,9 @@ class Accessible:
         """The first action: presses a button, toggles a switch."""
         self._call("org.a11y.atspi.Action", "DoAction", GLib.Variant("(i)", (0,)))
 
+    def grab_focus(self):
+        self._call("org.a11y.atspi.Component", "GrabFocus")
+
     def descendants(self):
         for child in self.children:
             yield child
