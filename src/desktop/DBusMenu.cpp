@@ -283,6 +283,7 @@ bool DBusMenu::handleEvent(int id, const QString& name)
         else if (name == QLatin1String("closed"))
             m_handlers.closed();
     } else if (name == QLatin1String("clicked")) {
+        m_handlers.closed();
         // Later: the host waits for the reply, and what the entry does may take its time.
         QTimer::singleShot(0, this, [item = node->second.item] {
             if (item->action && item->isEnabled && !item->isHidden)
@@ -295,8 +296,11 @@ bool DBusMenu::handleEvent(int id, const QString& name)
 bool DBusMenu::handleAboutToShow(int id)
 {
     const auto revision = m_revision;
-    if (id == 0 && m_menu->willOpen)
-        m_menu->willOpen();
+    if (id == 0) {
+        m_handlers.requested();
+        if (m_menu->willOpen)
+            m_menu->willOpen();
+    }
     refresh();
     return m_revision != revision;
 }

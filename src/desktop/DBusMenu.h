@@ -29,8 +29,9 @@ class DBusMenu : public QObject, protected QDBusContext {
     Q_PROPERTY(QStringList IconThemePath READ iconThemePath)
 
 public:
-    /// `opened` and `closed` run when a host says that it shows the menu and that it no longer does.
+    /// What hosts say; not every host says everything.
     struct Handlers {
+        std::function<void()> requested; ///< It may be about to show the menu.
         std::function<void()> opened;
         std::function<void()> closed;
     };

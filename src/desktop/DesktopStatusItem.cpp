@@ -42,7 +42,9 @@ DesktopStatusItem::DesktopStatusItem(ClickGesture& gesture, Dispatcher dispatch,
     m_bus(std::move(bus)),
     m_hosts(m_bus),
     m_item(m_bus, [this](ClickEvent::Kind kind, QPoint claimed) { clickedInBar(kind, claimed); }),
-    m_exportedMenu(m_bus, {[this] { m_gesture.menuOpened(); }, [this] { m_gesture.menuClosed(); }}),
+    m_exportedMenu(m_bus,
+        {[this] { m_gesture.menuRequested(); }, [this] { m_gesture.menuOpened(); },
+            [this] { m_gesture.menuClosed(); }}),
     m_popUpMenu({[this] { m_gesture.menuOpened(); }, [this] { m_gesture.menuClosed(); }})
 {
     m_stripDelay.setSingleShot(true);

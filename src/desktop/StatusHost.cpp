@@ -35,7 +35,7 @@ constexpr std::array knownProcesses{
     Known{"swaybar", squareOnDark},
     Known{"wrapper-2.0", squareOnDark}, // XFCE's plug-ins run in it
     Known{"xfce4-panel", squareOnDark},
-    Known{"lxqt-panel", square},
+    Known{"lxqt-panel", squareOnDark},
     Known{"plasmashell", square},
 };
 
@@ -49,6 +49,7 @@ constexpr std::array knownDesktops{
     Known{"MATE", wide},
     Known{"X-Cinnamon", wideOnDark},
     Known{"XFCE", squareOnDark},
+    Known{"LXQt", squareOnDark},
     Known{"GNOME", gnome},
 };
 

@@ -25,7 +25,7 @@ void paint(QImage& image, const QPainterPath& path, const StatusPictureInk& ink)
 {
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.strokePath(path, QPen(ink.halo, image.height() / 16.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.strokePath(path, QPen(ink.halo, image.height() / 12.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.fillPath(path, ink.text);
 }
 
@@ -72,7 +72,7 @@ StatusPictureInk statusPictureInk(bool onDark, bool appearsDisabled)
 {
     StatusPictureInk ink;
     ink.text = onDark ? QColor(255, 255, 255) : QColor(24, 24, 26);
-    ink.halo = onDark ? QColor(0, 0, 0, 150) : QColor(255, 255, 255, 150);
+    ink.halo = onDark ? QColor(0, 0, 0, 215) : QColor(255, 255, 255, 215);
     if (appearsDisabled)
         ink.text.setAlpha(128);
     return ink;

@@ -40,6 +40,14 @@ void ClickGesture::menuClosed()
     m_menuIsOpen = false;
 }
 
+void ClickGesture::menuRequested()
+{
+    if (m_catchUp)
+        m_catchUp();
+    if (m_waitingHide)
+        menuOpened();
+}
+
 void ClickGesture::press(const Press& press, std::function<void()> hide)
 {
     stopHiding();

@@ -34,6 +34,8 @@ public:
     /// The item's menu is on show, drawn by whomever: presses belong to the menu.
     void menuOpened();
     void menuClosed();
+    /// A host asks for the menu. It is about to show it if that answers a press on its bar.
+    void menuRequested();
 
     // For the event monitor.
 

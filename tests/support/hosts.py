@@ -45,6 +45,52 @@ _XFCE = """<?xml version="1.0" encoding="UTF-8"?>
 """
 
 
+_LXQT = """[General]
+__userfile__=true
+panels=panel1
+
+[panel1]
+alignment=-1
+desktop=0
+hidable=false
+panelSize=32
+iconSize=22
+plugins=mainmenu, spacer, statusnotifier
+position=Top
+width=100
+width-percent=true
+
+[mainmenu]
+type=mainmenu
+
+[spacer]
+alignment=Right
+expandable=true
+type=spacer
+
+[statusnotifier]
+alignment=Right
+type=statusnotifier
+"""
+
+_MATE = """[org/mate/panel/general]
+toplevel-id-list=['top']
+object-id-list=['tray']
+
+[org/mate/panel/toplevels/top]
+expand=true
+orientation='top'
+size=28
+
+[org/mate/panel/objects/tray]
+object-type='applet'
+applet-iid='NotificationAreaAppletFactory::NotificationArea'
+toplevel-id='top'
+position=0
+panel-right-stick=true
+"""
+
+
 def _windows(desktop, wm_class):
     """(x, y, width, height) of every window of that class, on the screen or not."""
     pattern = re.compile(rf'\("{re.escape(wm_class)}" .*\)  (\d+)x(\d+)\+-?\d+\+-?\d+  \+(-?\d+)\+(-?\d+)')
@@ -88,7 +134,42 @@ class PlainBar:
         return bar.find("label", "velto").rectangle
 
 
+class LxqtPanel:
+    """The LXQt panel at the top of the screen. Shows square pictures, activates on release."""
+
+    def start(self, desktop):
+        folder = desktop.path("config/lxqt")
+        os.makedirs(folder, exist_ok=True)
+        with open(os.path.join(folder, "panel.conf"), "w", encoding="utf-8") as file:
+            file.write(_LXQT)
+        return desktop.run("lxqt-panel", environment={"XDG_CURRENT_DESKTOP": "LXQt"})
+
+    def item_rectangle(self, desktop):
+        for button in desktop.application(desktop.host.pid).find_all("push button"):
+            x, y, width, height = button.rectangle
+            if width >= 22 and y < 40:
+                return x, y, width, height
+        raise LookupError("no status item in the panel bar")
+
+
+class MatePanel:
+    """The MATE panel at the top of the screen with its notification area. Shows pictures of any width,
+    activates on release."""
+
+    def start(self, desktop):
+        folder = desktop.path("config/glib-2.0/settings")
+        os.makedirs(folder, exist_ok=True)
+        with open(os.path.join(folder, "keyfile"), "w", encoding="utf-8") as file:
+            file.write(_MATE)
+        return desktop.run("mate-panel", environment={"XDG_CURRENT_DESKTOP": "MATE", "GSETTINGS_BACKEND": "keyfile"})
+
+    def item_rectangle(self, desktop):
+        raise LookupError("no status item in the panel bar")
+
+
 HOSTS = {
+    "lxqt": LxqtPanel(),
+    "mate": MatePanel(),
     "xfce": XfcePanel(),
     "press": PlainBar("press"),
     "release": PlainBar("release"),
