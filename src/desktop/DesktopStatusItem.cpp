@@ -185,15 +185,10 @@ void DesktopStatusItem::drawPicture()
 
 void DesktopStatusItem::clickedInBar(ClickEvent::Kind kind, QPoint claimed)
 {
-    const auto pointer = queryPointer();
-    ClickPlace place{std::nullopt, std::nullopt, claimed};
-    if (pointer) {
-        place.pointer = pointer->position;
-        place.bar = panelBarAt(pointer->position);
-    }
-    if (const auto found = statusAnchor(place))
+    const auto surroundings = clickSurroundings(claimed);
+    if (const auto found = statusAnchor(surroundings.place))
         m_lastAnchor = toLogical(*found).toAlignedRect();
-    clicked({kind, pointer && pointer->control});
+    clicked({kind, surroundings.controlIsHeld});
 }
 
 void DesktopStatusItem::clicked(ClickEvent click)

@@ -52,8 +52,7 @@ PopUpMenu::PopUpMenu(Handlers handlers) : m_handlers(std::move(handlers))
     connect(&m_refresh, &QTimer::timeout, this, &PopUpMenu::refresh);
     m_awaitRelease.setInterval(10ms);
     connect(&m_awaitRelease, &QTimer::timeout, this, [this] {
-        const auto pointer = queryPointer();
-        if (!pointer || !pointer->pressed)
+        if (!mouseIsPressed())
             show();
     });
 }
@@ -71,8 +70,7 @@ void PopUpMenu::popUp(const QRect& anchor)
     if (isOpen() || !m_menu)
         return;
     m_anchor = anchor;
-    const auto pointer = queryPointer();
-    if (pointer && pointer->pressed)
+    if (mouseIsPressed())
         m_awaitRelease.start();
     else
         show();

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 namespace velto {
 
@@ -22,32 +23,22 @@ public:
 
     explicit StripWindow(ClickHandler onClick);
 
+    ~StripWindow() override;
+
     void setText(const QString& text);
-    [[nodiscard]] const QString& text() const { return m_text; }
     void setTextFont(const QFont& font);
     void setAppearsDisabled(bool disabled);
 
-    [[nodiscard]] QSize sizeHint() const override;
-
-    /// Acts as if the mouse had done it.
-    void click(ClickEvent::Kind kind, bool control);
-
 protected:
-    bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    class Face;
+
     void followScreen();
     void place();
-    [[nodiscard]] double digitWidth() const;
 
-    ClickHandler m_onClick;
-    QString m_text;
-    QFont m_font;
-    bool m_appearsDisabled = false;
+    std::unique_ptr<Face> m_face;
 };
 
 } // namespace velto

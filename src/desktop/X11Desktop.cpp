@@ -118,12 +118,25 @@ Pointer pointer()
             = owned(xcb_query_pointer_reply(connection(), xcb_query_pointer(connection(), window), nullptr));
         if (!reply)
             return pointer;
+        pointer.x = reply->root_x;
+        pointer.y = reply->root_y;
         pointer.controlIsHeld = (reply->mask & XCB_MOD_MASK_CONTROL) != 0;
+        pointer.buttonIsHeld = (reply->mask & (XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3)) != 0;
         window = reply->child;
         if (window == XCB_WINDOW_NONE)
             return pointer;
         pointer.windows.push_back(window);
     }
+}
+
+std::optional<QRect> geometry(xcb_window_t window)
+{
+    const auto size = owned(xcb_get_geometry_reply(connection(), xcb_get_geometry(connection(), window), nullptr));
+    const auto origin = owned(xcb_translate_coordinates_reply(
+        connection(), xcb_translate_coordinates(connection(), window, rootWindow(), 0, 0), nullptr));
+    if (!size || !origin)
+        return std::nullopt;
+    return QRect(origin->dst_x, origin->dst_y, size->width, size->height);
 }
 
 } // namespace velto::x11

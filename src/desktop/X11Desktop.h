@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include <QRect>
+
 #include <xcb/xcb.h>
 
 /// Questions to the X server over the application's own connection. Each is a round trip.
@@ -34,9 +36,15 @@ void focus(xcb_window_t window);
 
 struct Pointer {
     std::vector<xcb_window_t> windows; ///< Under it, outermost first; none where the desktop is bare.
+    std::int16_t x = 0;                ///< Pixels of the X screen, origin top left.
+    std::int16_t y = 0;
     bool controlIsHeld = false;
+    bool buttonIsHeld = false; ///< Any of the main three.
 };
 
 [[nodiscard]] Pointer pointer();
+
+/// The part of the X screen that `window` covers. Absent when the window is gone.
+[[nodiscard]] std::optional<QRect> geometry(xcb_window_t window);
 
 } // namespace velto::x11

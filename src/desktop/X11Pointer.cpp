@@ -9,53 +9,16 @@
 #include <qpa/qplatformscreen.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <memory>
 
 namespace velto {
 
 namespace {
-
-struct Free {
-    void operator()(void* reply) const { std::free(reply); }
-};
-template <class Reply>
-using Answer = std::unique_ptr<Reply, Free>;
 
 bool isDock(xcb_window_t window)
 {
     static const auto type = x11::atom("_NET_WM_WINDOW_TYPE");
     static const auto dock = x11::atom("_NET_WM_WINDOW_TYPE_DOCK");
     return std::ranges::count(x11::property(window, type), dock) > 0;
-}
-
-std::optional<QRect> geometry(xcb_window_t window)
-{
-    auto* x = x11::connection();
-    const Answer<xcb_get_geometry_reply_t> size(xcb_get_geometry_reply(x, xcb_get_geometry(x, window), nullptr));
-    const Answer<xcb_translate_coordinates_reply_t> origin(
-        xcb_translate_coordinates_reply(x, xcb_translate_coordinates(x, window, x11::rootWindow(), 0, 0), nullptr));
-    if (!size || !origin)
-        return std::nullopt;
-    return QRect(origin->dst_x, origin->dst_y, size->width, size->height);
-}
-
-/// The dock window at `position`, looking down from the root through the frames around it.
-std::optional<QRect> dockAt(QPoint position)
-{
-    auto* x = x11::connection();
-    const auto root = x11::rootWindow();
-    auto window = root;
-    while (window != XCB_WINDOW_NONE) {
-        if (window != root && isDock(window))
-            return geometry(window);
-        const Answer<xcb_translate_coordinates_reply_t> below(xcb_translate_coordinates_reply(x,
-            xcb_translate_coordinates(
-                x, root, window, static_cast<std::int16_t>(position.x()), static_cast<std::int16_t>(position.y())),
-            nullptr));
-        window = below ? below->child : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
-    }
-    return std::nullopt;
 }
 
 const QScreen* screenAt(QPoint pixel)
@@ -66,7 +29,7 @@ const QScreen* screenAt(QPoint pixel)
     return QGuiApplication::primaryScreen();
 }
 
-/// The strip along an edge of the screen that belongs to no window.
+/// The strip along an edge of the screen that is kept free of windows.
 std::optional<QRect> edgeStripAt(QPoint position)
 {
     const auto* screen = screenAt(position);
@@ -87,27 +50,24 @@ std::optional<QRect> edgeStripAt(QPoint position)
 
 } // namespace
 
-std::optional<PointerState> queryPointer()
+ClickSurroundings clickSurroundings(QPoint claimed)
 {
-    auto* x = x11::connection();
-    if (!x)
-        return std::nullopt;
-    const Answer<xcb_query_pointer_reply_t> reply(
-        xcb_query_pointer_reply(x, xcb_query_pointer(x, x11::rootWindow()), nullptr));
-    if (!reply)
-        return std::nullopt;
-    constexpr auto buttons = XCB_KEY_BUT_MASK_BUTTON_1 | XCB_KEY_BUT_MASK_BUTTON_2 | XCB_KEY_BUT_MASK_BUTTON_3;
-    return PointerState{
-        {reply->root_x, reply->root_y}, (reply->mask & XCB_KEY_BUT_MASK_CONTROL) != 0, (reply->mask & buttons) != 0};
+    ClickSurroundings result;
+    result.place.claimed = claimed;
+    if (!x11::connection())
+        return result;
+    const auto pointer = x11::pointer();
+    const QPoint position(pointer.x, pointer.y);
+    result.controlIsHeld = pointer.controlIsHeld;
+    result.place.pointer = position;
+    const auto dock = std::ranges::find_if(pointer.windows, isDock);
+    result.place.bar = dock != pointer.windows.end() ? x11::geometry(*dock) : edgeStripAt(position);
+    return result;
 }
 
-std::optional<QRect> panelBarAt(QPoint position)
+bool mouseIsPressed()
 {
-    if (!x11::connection())
-        return std::nullopt;
-    if (const auto dock = dockAt(position))
-        return dock;
-    return edgeStripAt(position);
+    return x11::connection() && x11::pointer().buttonIsHeld;
 }
 
 QRectF toLogical(const QRect& pixels)

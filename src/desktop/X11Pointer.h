@@ -1,29 +1,25 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QPoint>
-#include <QRect>
+#include "desktop/StatusAnchor.h"
 
-#include <optional>
+#include <QRectF>
 
 namespace velto {
 
-// What the X server says at this moment. Coordinates are pixels of the X screen, origin top left.
-
-struct PointerState {
-    QPoint position;
-    bool control = false; ///< The control key is held.
-    bool pressed = false; ///< Any of the three main buttons is held.
+/// What the display tells of a click that is being handled.
+struct ClickSurroundings {
+    ClickPlace place;
+    bool controlIsHeld = false;
 };
 
-/// Absent on a display that is no X server.
-[[nodiscard]] std::optional<PointerState> queryPointer();
+/// `claimed` is what the host says of the place. On a display that is no X server, that is all there is.
+[[nodiscard]] ClickSurroundings clickSurroundings(QPoint claimed);
 
-/// The rectangle of the panel bar at `position`: of a dock window there, else of the strip that windows
-/// leave free along an edge of the screen. Absent when there is none.
-[[nodiscard]] std::optional<QRect> panelBarAt(QPoint position);
+/// Whether a mouse button is down, so that another program may hold the mouse.
+[[nodiscard]] bool mouseIsPressed();
 
-/// A rectangle in pixels, in the toolkit's coordinates; the screen is the one that holds its centre,
+/// A rectangle of the X screen in the toolkit's coordinates. The screen is the one that holds its centre,
 /// else the main one.
 [[nodiscard]] QRectF toLogical(const QRect& pixels);
 

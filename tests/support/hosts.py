@@ -147,7 +147,7 @@ class LxqtPanel:
     def item_rectangle(self, desktop):
         for button in desktop.application(desktop.host.pid).find_all("push button"):
             x, y, width, height = button.rectangle
-            if width >= 22 and y < 40:
+            if x > 640 and width > 16:  # the other one is the panel's own menu at the left
                 return x, y, width, height
         raise LookupError("no status item in the panel bar")
 
@@ -164,6 +164,10 @@ class MatePanel:
         return desktop.run("mate-panel", environment={"XDG_CURRENT_DESKTOP": "MATE", "GSETTINGS_BACKEND": "keyfile"})
 
     def item_rectangle(self, desktop):
+        for x, y, width, height in _windows(desktop, "notification-area-applet"):
+            if x >= 0 and width > 16 and height > 16:
+                handle = 10
+                return x + handle, y, width - handle, height
         raise LookupError("no status item in the panel bar")
 
 

@@ -1,0 +1,157 @@
+# SPDX-License-Identifier: MIT
+"""What a person does with the item in a panel bar; the same on every bar."""
+import time
+
+from gi.repository import Gio, GLib
+
+from desktop import VirtualDesktop, holds, wait_for
+from menus import MenuOnScreen
+from messages import messages_of
+
+
+def labels(entry):
+    """What a shown menu lists, separators left out."""
+    return [child.label for child in entry.children if child.visible and not child.separator]
+
+
+class PanelStories:
+    """Subclasses say which bar: `host`; and how many messages a second the program may send there while it
+    counts: `chatter`, its signal and the answers that this host asks for."""
+
+    chatter = 2
+
+    @classmethod
+    def setUpClass(cls):
+        cls.desktop = cls.enterClassContext(VirtualDesktop(host=cls.host))
+
+    def setUp(self):
+        self.velto = self.desktop.start_velto({"breakMinutes": 10})
+        self.addCleanup(self.velto.kill)
+        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
+        wait_for(self.is_in_the_bar, what="the item in the bar")
+
+    def is_in_the_bar(self):
+        taken_in = self.desktop.bus.call_sync(
+            "org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher", "org.freedesktop.DBus.Properties", "Get",
+            GLib.Variant("(ss)", ("org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems")), None,
+            Gio.DBusCallFlags.NONE, 10000, None).unpack()[0]
+        return len(taken_in) == 1 and self.velto.item.bus_name in taken_in[0] and self.desktop.item_rectangle
+
+    def click_item(self, button=1, modifiers=()):
+        self.desktop.click_item(button, modifiers)
+
+    def look(self):
+        """The screen without the mouse pointer, which waits in the bar."""
+        self.desktop.move(600, 10)
+        latest = None
+
+        def holds_still():
+            nonlocal latest
+            earlier, latest = latest, self.desktop.picture()
+            time.sleep(0.2)
+            return earlier and earlier.rgb == latest.rgb
+
+        wait_for(holds_still)
+        return latest
+
+    def open_menu(self):
+        entries = labels(self.velto.item.menu())
+        before = self.look()
+        self.click_item(button=3)
+        return MenuOnScreen(self.desktop, before, rows=len(entries)), entries
+
+    def choose(self, *names):
+        """Opens the menu and goes down the path of `names` with the mouse."""
+        tree = self.velto.item.menu()
+        menu, entries = self.open_menu()
+        for name in names[:-1]:
+            tree = tree.find(name)
+            menu, entries = menu.open_submenu(entries.index(name), len(labels(tree))), labels(tree)
+        self.desktop.click(*menu.place(entries.index(names[-1])))
+        return menu
+
+    def wait_until_gone(self, menu):
+        self.desktop.move(600, 10)
+        wait_for(menu.is_gone)
+
+    def hide_the_card(self):
+        self.click_item()
+        wait_for(lambda: not self.velto.card_is_visible, what="the card hidden by a left click")
+        holds(lambda: not self.velto.card_is_visible, 0.7, "the card stays hidden")
+
+    def show_the_card(self, **click):
+        self.click_item(**click)
+        wait_for(lambda: self.velto.card_is_visible, what="the card shown by a click")
+
+    def test_a_left_click_toggles_the_card(self):
+        self.hide_the_card()
+        self.show_the_card()
+        self.hide_the_card()
+
+    def test_a_middle_click_toggles_it_too(self):
+        self.hide_the_card()
+        self.show_the_card(button=2)
+
+    def test_the_card_stands_under_the_item(self):
+        self.hide_the_card()
+        self.show_the_card()
+
+        x, y, item_width, item_height = self.desktop.item_rectangle
+        left, top, width, _ = self.velto.card.rectangle
+        self.assertAlmostEqual(top, y + item_height + 6, delta=4)
+        self.assertAlmostEqual(left, min(x + item_width // 2 - width // 2, 1280 - width), delta=2)
+
+    def test_a_preset_is_chosen_with_the_mouse(self):
+        self.choose("Presets", "25m focus / 5m break")
+
+        wait_for(lambda: self.velto.settings.get("breakMinutes") == 5, what="the preset")
+        holds(lambda: self.velto.card_is_visible, 0.7, "the card that was there before the menu")
+        self.hide_the_card()
+        self.show_the_card()
+
+    def test_the_timer_is_paused_with_the_mouse(self):
+        self.velto.press("Start")
+        wait_for(lambda: self.velto.item.menu().find("Pause Focus"))
+        self.hide_the_card()
+
+        menu = self.choose("Pause Focus")
+
+        wait_for(lambda: self.velto.item.menu().find("Start Focus"))
+        self.wait_until_gone(menu)
+        self.assertFalse(self.velto.card_is_visible)
+        self.show_the_card()
+
+    def test_a_menu_left_with_escape_changes_nothing(self):
+        menu, _ = self.open_menu()
+        holds(lambda: self.velto.card_is_visible, 0.7, "the card beside the menu")
+        self.desktop.key("Escape")
+        self.wait_until_gone(menu)
+
+        self.assertTrue(self.velto.item.menu().find("Start Focus"))
+        self.hide_the_card()
+
+    def test_an_open_menu_follows_the_timer(self):
+        self.hide_the_card()
+        before = self.look()
+        _, entries = self.open_menu()
+
+        self.velto.item.choose("Start Focus")
+
+        MenuOnScreen(self.desktop, before, rows=len(entries) + 1)  # "Reset Focus" has joined
+        self.desktop.key("Escape")
+
+    def test_the_bus_is_quiet(self):
+        name = self.velto.item.bus_name
+        self.velto.press("Start")
+        self.hide_the_card()
+        self.desktop.move(600, 10)
+        wait_for(lambda: self.velto.item.label < "24:58")
+
+        sent, seconds = messages_of(self.desktop, name, 5)
+        self.assertLessEqual(sent, self.chatter * (seconds + 1))
+        self.assertGreaterEqual(sent, seconds - 1)
+
+        self.velto.item.choose("Pause Focus")
+        wait_for(lambda: self.velto.item.menu().find("Start Focus"))
+        time.sleep(1)  # for the host's last questions
+        self.assertEqual(messages_of(self.desktop, name, 4)[0], 0)
