@@ -19,6 +19,12 @@ class TheMenu(unittest.TestCase):
     def checked(self, *path):
         return [entry.label for entry in self.velto.item.menu().find(*path).children if entry.checked]
 
+    def menu_is_open(self):
+        try:
+            return bool(desktop.menu_rectangle)
+        except LookupError:
+            return False
+
     def test_its_first_entries_follow_the_timer(self):
         menu = self.velto.item.menu()
         self.assertTrue(menu.find("Start Focus").enabled)
@@ -71,12 +77,12 @@ class TheMenu(unittest.TestCase):
         desktop.click_item()
         wait_for(lambda: not self.velto.card_is_visible)
 
-        before = desktop.picture().rgb
         desktop.click_item(button=3)
-        wait_for(lambda: desktop.picture().rgb != before, what="a menu on the screen")
+        wait_for(self.menu_is_open, what="a menu on the screen")
+        self.assertGreater(desktop.menu_rectangle[3], 250)
         holds(lambda: not self.velto.card_is_visible, 0.7, "no card beside the menu")
         desktop.key("Escape")
-        wait_for(lambda: desktop.picture().rgb == before, what="the menu closed")
+        wait_for(lambda: not self.menu_is_open(), what="the menu closed")
 
         desktop.click_item()
         wait_for(lambda: self.velto.card_is_visible, what="a left click after the menu")

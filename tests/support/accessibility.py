@@ -9,10 +9,12 @@ _STATES = {"active": 1, "checked": 4, "editable": 7, "enabled": 8, "focusable": 
 
 
 class Accessible:
-    """One object of the tree. Everything raises GLib.Error when the object is gone."""
+    """One object of the tree. Everything raises GLib.Error when the object is gone.
 
-    def __init__(self, bus, name, path):
-        self._bus, self._name, self._path = bus, name, path
+    `scale` is what the program's toolkit calls one pixel, in pixels."""
+
+    def __init__(self, bus, name, path, scale=1):
+        self._bus, self._name, self._path, self._scale = bus, name, path, scale
 
     def __eq__(self, other):
         return (self._name, self._path) == (other._name, other._path)
@@ -45,7 +47,8 @@ class Accessible:
 
     @property
     def children(self):
-        return [Accessible(self._bus, name, path) for name, path in self._call(_ACCESSIBLE, "GetChildren")[0]]
+        return [Accessible(self._bus, name, path, self._scale)
+                for name, path in self._call(_ACCESSIBLE, "GetChildren")[0]]
 
     def has_state(self, state):
         low, high = self._call(_ACCESSIBLE, "GetState")[0]
@@ -75,7 +78,8 @@ class Accessible:
     @property
     def rectangle(self):
         """(x, y, width, height) on the screen, in pixels, from the top left."""
-        return self._call("org.a11y.atspi.Component", "GetExtents", GLib.Variant("(u)", (0,)))[0]
+        extents = self._call("org.a11y.atspi.Component", "GetExtents", GLib.Variant("(u)", (0,)))[0]
+        return tuple(round(self._scale * length) for length in extents)
 
     @property
     def middle(self):
@@ -129,8 +133,8 @@ class Accessible:
         return "\n".join(lines)
 
 
-def applications(bus):
-    return Accessible(bus, "org.a11y.atspi.Registry", _ROOT).children
+def applications(bus, scale=1):
+    return Accessible(bus, "org.a11y.atspi.Registry", _ROOT, scale).children
 
 
 def process_of(bus, accessible):

@@ -54,7 +54,7 @@ class Velto:
     @property
     def app(self):
         """Its accessibility tree. LookupError while it is not there yet."""
-        return self.desktop.application(self.pid)
+        return self.desktop.application(self.pid, self.desktop.scale)
 
     @property
     def item(self):
@@ -128,13 +128,14 @@ class Velto:
 
 class VirtualDesktop:
     """See the module. `host` is the panel bar: one of hosts.HOSTS, or "none". `monitors` is a list of
-    (width, height, x, y) inside `size`, the first being the main one; `bar_monitor` says which has the bar.
+    (width, height, x, y) inside `size`, the first being the main one; `bar_monitor` says which has the bar
+    ("press" and "release" only).
     `scale` is how many pixels a point has, `dark` the colour scheme that the desktop asks for."""
 
     def __init__(self, host="xfce", wm="xfwm4", size=(1280, 800), monitors=(), scale=1, dark=False,
                  compositing=False, bar_monitor=0, verbose=False):
-        self._host_kind, self._wm_kind, self._size = host, wm, size
-        self.monitors, self._scale, self.dark, self._compositing = monitors, scale, dark, compositing
+        self._host_kind, self._wm_kind, self.size = host, wm, size
+        self.monitors, self.scale, self.dark, self._compositing = monitors, scale, dark, compositing
         self.bar_monitor, self._verbose = bar_monitor, verbose
         self._processes = []
         self.host = None
@@ -180,9 +181,9 @@ class VirtualDesktop:
             "QT_QPA_PLATFORM": "xcb",
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
         }
-        if self._scale != 1:
-            self.environment["QT_SCALE_FACTOR"] = str(self._scale)
-            self.environment["GDK_SCALE"] = str(int(self._scale))
+        if self.scale != 1:
+            self.environment["QT_SCALE_FACTOR"] = str(self.scale)
+            self.environment["GDK_SCALE"] = str(int(self.scale))
         if self.dark:
             self.environment["GTK_THEME"] = "Adwaita:dark"
         os.mkdir(self.path("config/pulse"))
@@ -199,7 +200,7 @@ class VirtualDesktop:
 
     def _start_x_server(self):
         reader, writer = os.pipe()
-        width, height = self._size
+        width, height = self.size
         self.run("Xvfb", "-displayfd", str(writer), "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp",
                  "-noreset", "-dpi", "96", "-fbdir", self.path("screen"), pass_fds=(writer,))
         os.close(writer)
@@ -218,6 +219,9 @@ class VirtualDesktop:
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
         self.run("dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address={address}")
         self.bus = wait_for(lambda: self.connect(address), what="a session bus")
+        self.run("dbus-monitor", "--session", "--profile",
+                 "type='method_call',interface='org.kde.StatusNotifierItem',member='Activate'",
+                 output=self.path("activations"))
         self.run(next(path for path in _ATSPI if os.path.exists(path)), "--launch-immediately")
         self._accessibility = wait_for(lambda: self.connect(self.bus.call_sync(
             "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, Gio.DBusCallFlags.NONE, 10000,
@@ -244,6 +248,11 @@ class VirtualDesktop:
     def item_rectangle(self):
         """Where the program's item stands in the panel bar; LookupError while it is not there."""
         return self._host_in_use.item_rectangle(self)
+
+    @property
+    def menu_rectangle(self):
+        """Where the menu stands that the panel bar has opened (only "xfce"); LookupError while there is none."""
+        return self._host_in_use.menu_rectangle(self)
 
     def _has_owner(self, name):
         return self.bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
@@ -320,9 +329,10 @@ class VirtualDesktop:
         with open(self.path(f"log/{program}.log"), encoding="utf-8", errors="replace") as file:
             return file.read()
 
-    def application(self, pid):
-        """The accessibility tree of process `pid`; LookupError without one."""
-        for application in accessibility.applications(self._accessibility):
+    def application(self, pid, scale=1):
+        """The accessibility tree of process `pid`, whose toolkit calls `scale` pixels one; LookupError without
+        one."""
+        for application in accessibility.applications(self._accessibility, scale):
             if accessibility.process_of(self._accessibility, application) == pid:
                 return application
         raise LookupError(f"process {pid} is not accessible")
@@ -334,6 +344,12 @@ class VirtualDesktop:
 
     def screenshot(self, path):
         self.picture().save(path)
+
+    @property
+    def activations(self):
+        """How many times a bar has told an item of a left click."""
+        with open(self.path("activations"), encoding="utf-8") as file:
+            return file.read().count("Activate")
 
     def move(self, x, y):
         self.ask("xdotool", "mousemove", str(x), str(y))
@@ -349,9 +365,13 @@ class VirtualDesktop:
         self.ask(*command)
 
     def click_item(self, button=1, modifiers=()):
-        """A real click on the program's item in the panel bar."""
+        """A real click on the program's item in the panel bar. Returns when the bar has told the item of a
+        left one."""
         x, y, width, height = wait_for(lambda: self.item_rectangle, what="the item in the panel bar")
+        before = self.activations
         self.click(x + width // 2, y + height // 2, button, modifiers)
+        if button == 1:
+            wait_for(lambda: self.activations > before, what="the bar's answer to the click")
 
     def press(self, x, y, button=1):
         self.ask("xdotool", "mousemove", str(x), str(y), "mousedown", str(button))

@@ -92,11 +92,12 @@ panel-right-stick=true
 
 
 def _windows(desktop, wm_class):
-    """(x, y, width, height) of every window of that class, on the screen or not."""
-    pattern = re.compile(rf'\("{re.escape(wm_class)}" .*\)  (\d+)x(\d+)\+-?\d+\+-?\d+  \+(-?\d+)\+(-?\d+)')
+    """(x, y, width, height) of every window of that class on the screen."""
+    pattern = re.compile(rf'(0x\w+) .*\("{re.escape(wm_class)}" .*\)  (\d+)x(\d+)\+-?\d+\+-?\d+  \+(-?\d+)\+(-?\d+)')
     for match in pattern.finditer(desktop.ask("xwininfo", "-root", "-tree")):
-        width, height, x, y = map(int, match.groups())
-        yield x, y, width, height
+        width, height, x, y = map(int, match.groups()[1:])
+        if width > 16 and height > 16 and "IsViewable" in desktop.ask("xwininfo", "-id", match[1]):
+            yield x, y, width, height
 
 
 class XfcePanel:
@@ -106,19 +107,25 @@ class XfcePanel:
         folder = desktop.path("config/xfce4/xfconf/xfce-perchannel-xml")
         os.makedirs(folder, exist_ok=True)
         with open(os.path.join(folder, "xfce4-panel.xml"), "w", encoding="utf-8") as file:
-            file.write(_XFCE.format(output=f"monitor-{desktop.bar_monitor}" if desktop.monitors else "Automatic"))
+            file.write(_XFCE.format(output="monitor-0" if desktop.monitors else "Automatic"))
         return desktop.run("xfce4-panel", "--disable-wm-check", "--sm-client-disable")
 
     def item_rectangle(self, desktop):
         # The plug-in of the status items is a process of its own; it takes no room while it has no item.
-        for x, y, width, height in _windows(desktop, "wrapper-2.0"):
-            if x >= 0 and y >= 0 and width > 16 and height > 16:
-                return x, y, width, height
+        for rectangle in _windows(desktop, "wrapper-2.0"):
+            if rectangle[1] == 0:
+                return rectangle
         raise LookupError("no status item in the panel bar")
+
+    def menu_rectangle(self, desktop):
+        for rectangle in _windows(desktop, "wrapper-2.0"):
+            if rectangle[1] > 0:
+                return rectangle
+        raise LookupError("no menu under the panel bar")
 
 
 class PlainBar:
-    """A bar of our own at the top of the screen that shows labels and activates on press or on release."""
+    """A bar of our own at the top of a monitor that shows labels and activates on press or on release."""
 
     def __init__(self, activate_on):
         self._activate_on = activate_on
@@ -127,7 +134,8 @@ class PlainBar:
         program = desktop.path("budgie-panel")  # a name that is known for showing labels
         if not os.path.exists(program):
             os.symlink("/usr/bin/python3", program)
-        return desktop.run(program, os.path.join(_HERE, "plain_bar.py"), self._activate_on)
+        width, _, x, y = desktop.monitors[desktop.bar_monitor] if desktop.monitors else (desktop.size[0], 0, 0, 0)
+        return desktop.run(program, os.path.join(_HERE, "plain_bar.py"), self._activate_on, str(x), str(y), str(width))
 
     def item_rectangle(self, desktop):
         bar = desktop.application(desktop.host.pid)

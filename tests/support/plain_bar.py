@@ -1,20 +1,22 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""A bar at the top of the screen that shows the label of every status item, and activates it on a left press
+"""A bar at the top of a monitor that shows the label of every status item, and activates it on a left press
 or on its release.
 
-    plain_bar.py press|release
+    plain_bar.py press|release X Y WIDTH
 """
+import subprocess
 import sys
 
 import gi
 
 gi.require_version("Gdk", "3.0")
 gi.require_version("Gtk", "3.0")
-from gi.repository import Gdk, Gio, GLib, Gtk  # noqa: E402
+from gi.repository import Gdk, GdkX11, Gio, GLib, Gtk  # noqa: E402
 
 WATCHER = "org.kde.StatusNotifierWatcher"
 ITEM = "org.kde.StatusNotifierItem"
+HEIGHT = 28
 INTERFACE = Gio.DBusNodeInfo.new_for_xml(f"""<node><interface name="{WATCHER}">
   <method name="RegisterStatusNotifierItem"><arg type="s" direction="in"/></method>
   <method name="RegisterStatusNotifierHost"><arg type="s" direction="in"/></method>
@@ -28,19 +30,27 @@ INTERFACE = Gio.DBusNodeInfo.new_for_xml(f"""<node><interface name="{WATCHER}">
 
 
 class Bar(Gtk.Window):
-    def __init__(self, activate_on):
+    def __init__(self, activate_on, x, y, width):
         super().__init__(title="bar", type_hint=Gdk.WindowTypeHint.DOCK)
         self._items = {}
         self._row = Gtk.Box(spacing=8, halign=Gtk.Align.CENTER)
         self.add(self._row)
-        self.set_default_size(Gdk.Display.get_default().get_monitor(0).get_geometry().width, 28)
+        self.set_default_size(width, HEIGHT)
         self._activation = f"button-{activate_on}-event"
         self.show_all()
-        self.move(0, 0)
+        self.move(x, y)
+        self._keep_free(x, y, width)
 
         self._bus = Gio.bus_get_sync(Gio.BusType.SESSION)
         self._bus.register_object("/StatusNotifierWatcher", INTERFACE, self._call, self._get, None)
         Gio.bus_own_name_on_connection(self._bus, WATCHER, Gio.BusNameOwnerFlags.NONE, None, None)
+
+    def _keep_free(self, x, y, width):
+        """Asks the window manager to keep other windows from under the bar."""
+        strut = [0, 0, y + HEIGHT, 0, 0, 0, 0, 0, x, x + width - 1, 0, 0]
+        subprocess.run(["xprop", "-id", str(GdkX11.X11Window.get_xid(self.get_window())),
+                        "-f", "_NET_WM_STRUT_PARTIAL", "32c",
+                        "-set", "_NET_WM_STRUT_PARTIAL", ",".join(map(str, strut))], check=True)
 
     def _get(self, _bus, _sender, _path, _interface, name):
         return {"RegisteredStatusNotifierItems": GLib.Variant("as", list(self._items)),
@@ -90,11 +100,12 @@ class Bar(Gtk.Window):
 
     def _activate(self, _box, event, item):
         method = {1: "Activate", 2: "SecondaryActivate", 3: "ContextMenu"}.get(event.button)
-        if method:
+        # A quick second press comes as a double press, too.
+        if method and event.type in (Gdk.EventType.BUTTON_PRESS, Gdk.EventType.BUTTON_RELEASE):
             item.call(method, GLib.Variant("(ii)", (int(event.x_root), int(event.y_root))), Gio.DBusCallFlags.NONE,
                       5000, None, None)
         return True
 
 
-bar = Bar(sys.argv[1])
+bar = Bar(sys.argv[1], *map(int, sys.argv[2:]))
 Gtk.main()

@@ -13,5 +13,6 @@ from gi.repository import Gtk  # noqa: E402
 
 window = Gtk.Window(title=sys.argv[1], default_width=300, default_height=120)
 window.add(Gtk.Entry())
+window.move(80, 560)
 window.show_all()
 Gtk.main()
