@@ -111,7 +111,7 @@ private:
 
 namespace {
 
-class CanberraSound : public Sound {
+class CanberraSound final : public Sound {
 public:
     explicit CanberraSound(std::function<void()> start) : m_start(std::move(start)) { }
     void play() override { m_start(); }

@@ -17,7 +17,7 @@ namespace velto {
 ///
 /// The server is not spoken to before the first sound, and then only from a thread of its own. A
 /// sound that could not be started within half a second is dropped: late, it would mean nothing.
-class CanberraSoundLibrary : public SoundLibrary {
+class CanberraSoundLibrary final : public SoundLibrary {
 public:
     /// Where the program's own sounds stand, seen from the folder of its executable.
     [[nodiscard]] static std::filesystem::path folderOf(const std::filesystem::path& executableFolder);

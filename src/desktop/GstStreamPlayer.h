@@ -12,7 +12,7 @@ class BackgroundThreads;
 class GstStreamSession;
 
 /// Plays a web stream through the desktop's sound server.
-class GstStreamPlayer : public StreamPlayer {
+class GstStreamPlayer final : public StreamPlayer {
 public:
     /// `threads` must outlive this.
     GstStreamPlayer(std::string url, BackgroundThreads& threads);
