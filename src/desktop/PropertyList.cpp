@@ -119,8 +119,9 @@ std::optional<PropertyList> PropertyList::parse(std::string_view bytes)
         return std::nullopt;
 
     // The binary form knows values that XML does not, and libplist is lenient in what it takes.
-    const Node written = parseNode(xmlOf(root.get()));
-    if (!written || plist_get_node_type(written.get()) != PLIST_DICT
+    const std::string xml = xmlOf(root.get());
+    const Node written = parseNode(xml);
+    if (xml.size() > maximumSize || !written || plist_get_node_type(written.get()) != PLIST_DICT
         || plist_dict_get_size(written.get()) != plist_dict_get_size(root.get()))
         return std::nullopt;
     return PropertyList{std::move(root)};

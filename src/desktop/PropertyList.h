@@ -16,7 +16,8 @@ namespace velto {
 /// Entries of kinds that StoredValue does not know are carried along unchanged.
 class PropertyList {
 public:
-    static constexpr std::size_t maximumSize = 256 * 1024; ///< Bytes.
+    static constexpr std::size_t maximumSize
+        = 512 * 1024; ///< Bytes. libplist runs out of stack on hostile ones of twice that.
     static constexpr int maximumDepth = 64;
 
     PropertyList();

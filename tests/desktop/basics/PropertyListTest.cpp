@@ -194,6 +194,15 @@ TEST(PropertyListTest, WhatIsNoPropertyListIsRefused)
         EXPECT_FALSE(PropertyList::parse(bytes)) << bytes.substr(0, 200);
 }
 
+TEST(PropertyListTest, WhatCouldNotBeReadAgainOnceWrittenIsRefused)
+{
+    const std::string bytes(PropertyList::maximumSize * 9 / 10, 'x');
+    plist_t root = plist_new_dict();
+    plist_dict_set_item(root, "it", plist_new_data(bytes.data(), bytes.size()));
+
+    EXPECT_FALSE(PropertyList::parse(binary(root)));
+}
+
 TEST(PropertyListTest, AFileThatWasCutIsRefused)
 {
     PropertyList list;
