@@ -10,6 +10,7 @@
 #include <deque>
 #include <mutex>
 #include <optional>
+#include <thread>
 #include <utility>
 
 namespace velto {
@@ -19,22 +20,32 @@ using Clock = std::chrono::steady_clock;
 
 namespace {
 
+/// Every sound starts this long after it is asked for, so that a row of them is even although the
+/// first has to find the server first.
+constexpr auto leadTime = 80ms;
+
 struct ContextDeleter {
     void operator()(ca_context* context) const { ca_context_destroy(context); }
 };
 using Context = std::unique_ptr<ca_context, ContextDeleter>;
 
-Context makeContext()
+/// A connection to the sound server. Absent when there is none.
+Context openContext()
 {
-    ca_context* context = nullptr;
-    if (ca_context_create(&context) != CA_SUCCESS)
+    ca_context* created = nullptr;
+    if (ca_context_create(&created) != CA_SUCCESS)
         return nullptr;
+    Context context(created);
     // Only through the sound server: taking the sound card itself while the server is away would
     // keep it from coming back.
-    ca_context_set_driver(context, "pulse");
-    ca_context_change_props(context, CA_PROP_APPLICATION_NAME, "velto", CA_PROP_APPLICATION_ID, "org.velto.Velto",
+    ca_context_set_driver(created, "pulse");
+    ca_context_change_props(created, CA_PROP_APPLICATION_NAME, "velto", CA_PROP_APPLICATION_ID, "org.velto.Velto",
         CA_PROP_APPLICATION_ICON_NAME, "org.velto.Velto", nullptr);
-    return Context(context);
+    const int result = ca_context_open(created);
+    if (result == CA_SUCCESS)
+        return context;
+    qCDebug(audioLog) << "no sound server:" << ca_strerror(result);
+    return nullptr;
 }
 
 int start(ca_context* context, const std::filesystem::path& file)
@@ -66,15 +77,18 @@ public:
     void run()
     {
         Context context;
-        while (const auto file = next()) {
+        while (const auto request = next()) {
             // A server that went away is noticed only by trying, so the first failure is no verdict.
             for (int attempt = 0; attempt < 2; ++attempt) {
                 if (!context)
-                    context = makeContext();
-                const int result = context ? start(context.get(), *file) : CA_ERROR_OOM;
+                    context = openContext();
+                if (!context)
+                    break;
+                std::this_thread::sleep_until(request->time + leadTime);
+                const int result = start(context.get(), request->file);
                 if (result == CA_SUCCESS)
                     break;
-                qCDebug(audioLog) << "sound" << file->c_str() << "not started:" << ca_strerror(result);
+                qCDebug(audioLog) << "sound" << request->file.c_str() << "not started:" << ca_strerror(result);
                 context.reset();
             }
         }
@@ -89,7 +103,7 @@ private:
     static bool isStale(const Request& request) { return Clock::now() - request.time > 500ms; }
 
     /// Waits for something to play. Absent when stopped.
-    std::optional<std::filesystem::path> next()
+    std::optional<Request> next()
     {
         std::unique_lock lock(m_mutex);
         for (;;) {
@@ -99,7 +113,7 @@ private:
             auto request = std::move(m_requests.front());
             m_requests.pop_front();
             if (!isStale(request))
-                return std::move(request.file);
+                return request;
         }
     }
 
