@@ -250,6 +250,7 @@ void GstStreamSession::connect(const std::string& url)
     qCDebug(audioLog) << "opening" << url.c_str();
     if (gst_element_set_state(pipeline.get(), GST_STATE_PLAYING) != GST_STATE_CHANGE_FAILURE)
         attend(volume.get());
+    waitForAnswer();
     gst_element_set_state(pipeline.get(), GST_STATE_NULL);
     qCDebug(audioLog) << "closed" << url.c_str();
 }
@@ -278,6 +279,16 @@ void GstStreamSession::attend(GstElement* volume)
         lock.lock();
         m_changed.wait_until(lock, deadline, [&] { return m_stopped || m_connection.failed || m_volume != level; });
     }
+}
+
+/// Gives the server a last moment to answer the request.
+///
+/// libsoup 3.2 may crash when a request is cancelled while its answer comes in. A server that
+/// has not answered by then is not about to.
+void GstStreamSession::waitForAnswer()
+{
+    std::unique_lock lock(m_mutex);
+    m_changed.wait_for(lock, 250ms, [this] { return m_connection.answered || m_connection.failed; });
 }
 
 /// Whether nobody stopped the session meanwhile.
@@ -313,6 +324,11 @@ GstBusSyncReply GstStreamSession::onMessage(GstBus*, GstMessage* message, gpoint
         self.noteFailure();
         break;
     case GST_MESSAGE_ELEMENT:
+        if (gst_message_has_name(message, "http-headers")) {
+            const std::lock_guard lock(self.m_mutex);
+            self.m_connection.answered = true;
+            self.m_changed.notify_all();
+        }
         if (auto location = redirectionIn(gst_message_get_structure(message)); !location.empty()) {
             const std::lock_guard lock(self.m_mutex);
             self.m_connection.redirection = redirectionTarget(self.m_connection.url, location);
