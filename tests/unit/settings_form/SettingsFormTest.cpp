@@ -41,6 +41,9 @@ const std::string lush{streamUrl(MusicPreset::lush)};
 
 class SettingsFormTest : public testing::Test {
 protected:
+    /// Everything that reaches the store, the timer and the players, in order. Written to until the last player is
+    /// gone.
+    Calls calls;
     FakeKeyValueStore store;
     FakeSoundLibrary sounds;
     FakeStreamPlayerFactory players;
@@ -48,7 +51,6 @@ protected:
     std::optional<AppSettings> settings;
     std::optional<PomodoroTimer> timer;
     std::optional<SettingsForm> form;
-    Calls calls; ///< Everything that reaches the store, the timer and the players, in order.
     std::vector<Subscription> subscriptions;
 
     void launch()
