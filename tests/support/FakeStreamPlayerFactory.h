@@ -29,7 +29,7 @@ public:
     std::vector<std::string> opened;
     /// In order, over all players: "1 made", "1 volume 0.25", "1 play", "1 pause", "1 gone".
     std::vector<std::string> calls;
-    std::function<void()> onCall; ///< Runs after each call, also when a player goes; may be empty.
+    std::function<void()> onCall; ///< Runs after each call; may be empty.
 
 private:
     class FakeStreamPlayer final : public StreamPlayer {

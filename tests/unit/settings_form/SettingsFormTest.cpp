@@ -41,9 +41,6 @@ const std::string lush{streamUrl(MusicPreset::lush)};
 
 class SettingsFormTest : public testing::Test {
 protected:
-    /// Everything that reaches the store, the timer and the players, in order. Written to until the last player is
-    /// gone.
-    Calls calls;
     FakeKeyValueStore store;
     FakeSoundLibrary sounds;
     FakeStreamPlayerFactory players;
@@ -51,6 +48,7 @@ protected:
     std::optional<AppSettings> settings;
     std::optional<PomodoroTimer> timer;
     std::optional<SettingsForm> form;
+    Calls calls; ///< Everything that reaches the store, the timer and the players, in order.
     std::vector<Subscription> subscriptions;
 
     void launch()
