@@ -2,10 +2,7 @@
 """The panel bar and the card tell the same time."""
 import unittest
 
-from desktop import VirtualDesktop, wait_for
-
-SECONDS = ["24:59", "24:58", "24:57", "24:56"]
-
+from desktop import VirtualDesktop, holds, wait_for
 
 class TheBarAndTheCard(unittest.TestCase):
     def start(self, host):
@@ -19,10 +16,14 @@ class TheBarAndTheCard(unittest.TestCase):
         self.velto.press("Start")
         bar = self.desktop.application(self.desktop.host.pid)
 
-        for second in SECONDS:
-            wait_for(lambda: self.velto.time == second, what=second)
-            wait_for(lambda: self.velto.item.label == bar.find("label").text == self.velto.time,
-                     what=f"agreement at {second}")
+        agreed = ["25:00"]
+        while len(agreed) < 5:
+            def agree_on_another():
+                time = self.velto.time
+                return time != agreed[-1] and self.velto.item.label == bar.find("label").text == time and time
+
+            agreed.append(wait_for(agree_on_another, what=f"agreement after {agreed[-1]}"))
+        self.assertEqual(agreed, sorted(agreed, reverse=True))
 
         self.velto.press("Pause")
         wait_for(lambda: self.velto.controls == ["Start", "Reset"])
@@ -36,7 +37,7 @@ class TheBarAndTheCard(unittest.TestCase):
         at_rest = self.velto.item.pictures
         self.velto.press("Start")
 
-        wait_for(lambda: self.velto.item.label == "24:58")
+        wait_for(lambda: self.velto.item.label <= "24:58")
 
         self.assertEqual(self.velto.item.pictures, at_rest)
 
@@ -46,33 +47,34 @@ class TheBarAndTheCard(unittest.TestCase):
 
         first, second = self.pictures_of_one_count(), self.pictures_of_one_count()
 
-        self.assertEqual(first, second)
-        self.assertEqual(len(set(map(str, first.values()))), len(SECONDS) + 1)
+        in_both = first.keys() & second.keys()
+        self.assertGreater(len(in_both), 3)
+        for time in in_both:
+            self.assertEqual(first[time], second[time], f"the picture of {time}")
+        self.assertEqual(len(set(map(str, first.values()))), len(first), "one picture for each time")
         for pictures in first.values():
             for width, height, _ in pictures:
                 self.assertEqual(width, height)
 
     def pictures_of_one_count(self):
-        """What the bar is given for each second: the picture that is there while the card does not change."""
+        """The picture that the bar is given for each time on the card, over some seconds."""
         wait_for(lambda: self.velto.time == "25:00")
-        rest = self.settled_picture("25:00")
+        pictures = {}
+        self.settle(pictures)
         self.velto.press("Start")
-        pictures = {"25:00": rest} | {second: self.settled_picture(second) for second in SECONDS}
+        wait_for(lambda: self.settle(pictures) <= "24:53", what="some seconds")
         self.velto.press("Reset")
         return pictures
 
-    def settled_picture(self, second):
-        wait_for(lambda: self.velto.time == second, what=second)
-        last = None
-
-        def settled():
-            nonlocal last
-            before, last = last, self.velto.item.pictures
-            return before == last
-
-        wait_for(settled)
-        self.assertEqual(self.velto.time, second)
-        return last
+    def settle(self, pictures):
+        """Notes the picture if it and the time stay for a moment; returns the time."""
+        time, picture = self.velto.time, self.velto.item.pictures
+        try:
+            holds(lambda: (self.velto.time, self.velto.item.pictures) == (time, picture), 0.3)
+            pictures[time] = picture
+        except AssertionError:
+            pass  # between two seconds
+        return time
 
 
 if __name__ == "__main__":

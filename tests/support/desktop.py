@@ -40,6 +40,7 @@ class Velto:
 
     def __init__(self, desktop, process, output):
         self.desktop, self.process, self._output = desktop, process, output
+        self._app = self._item = self._time_label = None
 
     @property
     def pid(self):
@@ -54,12 +55,16 @@ class Velto:
     @property
     def app(self):
         """Its accessibility tree. LookupError while it is not there yet."""
-        return self.desktop.application(self.pid, self.desktop.scale)
+        if not self._app:
+            self._app = self.desktop.application(self.pid, self.desktop.scale)
+        return self._app
 
     @property
     def item(self):
         """Its status item. LookupError while it is not there yet."""
-        return StatusItem(self.desktop.bus, self.pid)
+        if not self._item:
+            self._item = StatusItem(self.desktop.bus, self.pid)
+        return self._item
 
     @property
     def card(self):
@@ -79,10 +84,12 @@ class Velto:
     @property
     def time(self):
         """The time on the card, such as "24:59"."""
-        for found in self.card.find_all():
-            if _TIME.fullmatch(found.name):
-                return found.name
-        raise LookupError("no time on the card")
+        if not self._time_label:
+            self._time_label = next(
+                (found for found in self.card.find_all() if _TIME.fullmatch(found.name)), None)
+        if not self._time_label or not self._time_label.showing:
+            raise LookupError("no time on the card")
+        return self._time_label.name
 
     @property
     def phase(self):
@@ -219,9 +226,10 @@ class VirtualDesktop:
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
         self.run("dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address={address}")
         self.bus = wait_for(lambda: self.connect(address), what="a session bus")
-        self.run("dbus-monitor", "--session", "--profile",
+        self.run("dbus-monitor", "--session",
                  "type='method_call',interface='org.kde.StatusNotifierItem',member='Activate'",
-                 output=self.path("activations"))
+                 "type='signal',interface='org.kde.StatusNotifierItem',member='XAyatanaNewLabel'",
+                 output=self.path("overheard"))
         self.run(next(path for path in _ATSPI if os.path.exists(path)), "--launch-immediately")
         self._accessibility = wait_for(lambda: self.connect(self.bus.call_sync(
             "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, Gio.DBusCallFlags.NONE, 10000,
@@ -348,8 +356,15 @@ class VirtualDesktop:
     @property
     def activations(self):
         """How many times a bar has told an item of a left click."""
-        with open(self.path("activations"), encoding="utf-8") as file:
-            return file.read().count("Activate")
+        with open(self.path("overheard"), encoding="utf-8") as file:
+            return file.read().count("member=Activate")
+
+    @property
+    def announced_labels(self):
+        """Every label that items have announced so far. None is missed, however busy the machine; there are
+        some only beside a bar that shows labels."""
+        with open(self.path("overheard"), encoding="utf-8") as file:
+            return re.findall(r'member=XAyatanaNewLabel\n   string "([^"]*)"\n', file.read())
 
     def move(self, x, y):
         self.ask("xdotool", "mousemove", str(x), str(y))
