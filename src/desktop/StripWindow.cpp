@@ -6,8 +6,9 @@
 #include "style/ContinuousRect.h"
 
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QFontMetricsF>
-#include <QGuiApplication>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -128,6 +129,17 @@ private:
             return kind == QAccessible::Name ? m_face.text() : QAccessibleWidget::text(kind);
         }
 
+        // The menu is a window of its own, and hangs under the strip that it opens from.
+        [[nodiscard]] int childCount() const override { return openMenu() ? 1 : 0; }
+        [[nodiscard]] QAccessibleInterface* child(int /*index*/) const override
+        {
+            return QAccessible::queryAccessibleInterface(openMenu());
+        }
+        int indexOfChild(const QAccessibleInterface* child) const override
+        {
+            return openMenu() && child->object() == openMenu() ? 0 : -1;
+        }
+
         [[nodiscard]] QStringList actionNames() const override { return {pressAction(), showMenuAction()}; }
 
         void doAction(const QString& name) override
@@ -139,6 +151,14 @@ private:
         }
 
     private:
+        [[nodiscard]] static QMenu* openMenu()
+        {
+            for (auto* window : QApplication::topLevelWidgets())
+                if (auto* menu = qobject_cast<QMenu*>(window); menu && menu->isVisible() && !menu->parentWidget())
+                    return menu;
+            return nullptr;
+        }
+
         Face& m_face;
     };
 

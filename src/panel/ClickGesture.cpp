@@ -11,7 +11,7 @@ namespace {
 
 constexpr auto memoryAfterRelease = 500ms;
 /// Time for a panel host to say, after the release, that the click opened our menu.
-constexpr auto menuDelay = 300ms;
+constexpr auto menuDelay = 800ms;
 
 } // namespace
 

@@ -17,7 +17,7 @@ class Accessible:
         self._bus, self._name, self._path, self._scale = bus, name, path, scale
 
     def __eq__(self, other):
-        return (self._name, self._path) == (other._name, other._path)
+        return isinstance(other, Accessible) and (self._name, self._path) == (other._name, other._path)
 
     def __repr__(self):
         try:

@@ -173,7 +173,7 @@ class MatePanel:
 
     def item_rectangle(self, desktop):
         for x, y, width, height in _windows(desktop, "notification-area-applet"):
-            if x >= 0 and width > 16 and height > 16:
+            if y == 0:
                 handle = 10
                 return x + handle, y, width - handle, height
         raise LookupError("no status item in the panel bar")

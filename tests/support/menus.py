@@ -50,7 +50,9 @@ class MenuOnScreen:
         return self._desktop.picture().crop(*self.box).rgb == self._before.crop(*self.box).rgb
 
     def open_submenu(self, index, rows):
-        self._desktop.move(*self.place(index))
+        x, y = self.place(index)
+        self._desktop.move(x, y - 2)  # a second movement, since some menus ignore the first
+        self._desktop.move(x, y)
         return MenuOnScreen(self._desktop, self.picture, [*self._known, self.box], rows, self._bar_height)
 
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -8,6 +9,7 @@
 #include <QObject>
 #include <QString>
 #include <QTest>
+#include <QTimer>
 #include <QVariantList>
 
 #include <utility>
@@ -55,8 +57,13 @@ public:
     /// Until everything sent by now has been handled and heard of.
     void settle()
     {
-        QCoreApplication::processEvents();
+        QTimer turn; // the timers that run out now run out before this one
+        turn.setSingleShot(true);
+        turn.start(0);
+        while (turn.isActive())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         call("/", "org.freedesktop.DBus.Peer", "Ping");
+        QCoreApplication::processEvents(); // signals that came before the reply
     }
 
     /// The signals heard since the last time.

@@ -2,19 +2,130 @@
 """The strip, on a desktop with a window manager and nothing else."""
 import unittest
 
-from desktop import wait_for
-from panel_stories import PanelStories
+from desktop import VirtualDesktop, holds, wait_for
+
+MENU_ROLES = ("menu item", "check menu item")
 
 
-class TheStrip(PanelStories, unittest.TestCase):
-    host = "none"
+class TheStrip(unittest.TestCase):
+    def setUp(self):
+        self.desktop = self.enterContext(VirtualDesktop(host="none"))
+        self.velto = self.desktop.start_velto({"breakMinutes": 10})
+        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
+        wait_for(self.strip, what="the strip")
 
     def strip(self):
+        """The button with the time. LookupError without one."""
         for window in self.velto.other_windows:
             for button in window.find_all("push button"):
                 if button.name == self.velto.item.label:
                     return button
         raise LookupError("no strip")
+
+    def click(self, button=1, modifiers=()):
+        self.desktop.click(*self.strip().middle, button, modifiers)
+
+    def entry(self, name):
+        for role in MENU_ROLES:
+            for entry in self.velto.app.find_all(role, name):
+                return entry
+        raise LookupError(f"no menu entry {name!r}")
+
+    def menu_is_open(self):
+        return bool(self.velto.app.find_all("menu item", "Quit"))
+
+    def wait_until_closed(self):
+        wait_for(lambda: not self.menu_is_open(), what="the menu closed")
+
+    def test_it_stands_at_the_top_right_and_takes_the_focus_from_no_window(self):
+        field = self.desktop.open_window("other")
+        focused = self.desktop.focused_window
+
+        x, y, width, _ = self.strip().rectangle
+        self.assertEqual((x + width, y), (1280 - 6, 6))
+        self.click()
+        wait_for(lambda: not self.velto.card_is_visible)
+        self.desktop.type("still here")
+
+        wait_for(lambda: field.text == "still here")
+        self.assertEqual(self.desktop.focused_window, focused)
+
+    def test_a_left_click_toggles_the_card_and_so_does_a_middle_click(self):
+        self.click()
+        wait_for(lambda: not self.velto.card_is_visible)
+        holds(lambda: not self.velto.card_is_visible, 0.7)
+
+        self.click(button=2)
+        wait_for(lambda: self.velto.card_is_visible)
+
+    def test_the_card_stands_under_it(self):
+        self.click()
+        wait_for(lambda: not self.velto.card_is_visible)
+        self.click()
+        wait_for(lambda: self.velto.card_is_visible)
+
+        _, y, _, height = self.strip().rectangle
+        left, top, width, _ = self.velto.card.rectangle
+        self.assertEqual((left + width, top), (1280, y + height + 6))
+
+    def test_a_preset_is_chosen_with_the_mouse_and_the_card_stays(self):
+        self.click(button=3)
+        self.desktop.move(*wait_for(lambda: self.entry("Presets")).middle)
+        wait_for(lambda: self.entry("25m focus / 5m break"))
+        self.assertTrue(self.velto.card_is_visible)
+
+        self.desktop.click(*self.entry("25m focus / 5m break").middle)
+
+        wait_for(lambda: self.velto.settings.get("breakMinutes") == 5)
+        self.wait_until_closed()
+        self.assertTrue(self.velto.card_is_visible)
+        self.click()
+        wait_for(lambda: not self.velto.card_is_visible)
+
+    def test_control_with_a_left_click_opens_the_menu(self):
+        self.desktop.ask("xdotool", "keydown", "ctrl")
+        self.click()
+        wait_for(self.menu_is_open)
+        self.desktop.ask("xdotool", "keyup", "ctrl")
+
+        self.assertTrue(self.velto.card_is_visible)
+        self.desktop.key("Escape")
+        self.wait_until_closed()
+
+    def test_the_menu_is_walked_and_left_with_the_keyboard(self):
+        self.click(button=3)
+        wait_for(self.menu_is_open)
+
+        self.desktop.key("Down", "Down", "Down", "Down", "Right")  # Start, two durations, Presets
+        wait_for(lambda: self.entry("90m focus / 15m break"))
+        self.desktop.key("Escape")
+        wait_for(lambda: not self.velto.app.find_all("check menu item", "90m focus / 15m break"))
+        self.desktop.key("Escape")
+        self.wait_until_closed()
+
+        self.click(button=3)
+        wait_for(self.menu_is_open)
+        self.desktop.key("Down", "Return")
+        wait_for(lambda: self.velto.item.menu().find("Pause Focus"), what="Start chosen with the keyboard")
+
+    def test_the_open_menu_follows_the_timer_and_shows_its_marks(self):
+        self.click(button=3)
+        wait_for(lambda: self.entry("Start Focus"))
+        self.assertFalse(self.entry("Auto-Transition").has_state("checked"))
+
+        self.velto.item.choose("Start Focus")
+        self.velto.item.choose("Auto-Transition")
+
+        wait_for(lambda: self.entry("Pause Focus"))
+        wait_for(lambda: self.entry("Reset Focus"))
+        wait_for(lambda: self.entry("Auto-Transition").has_state("checked"))
+        self.desktop.key("Escape")
+
+    def test_it_follows_the_time(self):
+        self.velto.press("Start")
+
+        for second in ("24:59", "24:58", "24:57"):
+            wait_for(lambda: self.strip().name == second)
 
 
 if __name__ == "__main__":

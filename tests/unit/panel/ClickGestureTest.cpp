@@ -185,7 +185,7 @@ TEST(ClickGestureTest, ARightPressOnABarThatOpensTheMenuLeavesThePanelAsItIs)
 
     Desk onRelease;
     onRelease.pressAndRelease(rightOnBar);
-    onRelease.runLoop.advance(299ms);
+    onRelease.runLoop.advance(799ms);
     onRelease.gesture.menuOpened();
     onRelease.runLoop.advance(1s);
     EXPECT_TRUE(onRelease.isPanelVisible);
@@ -208,7 +208,7 @@ TEST(ClickGestureTest, ARightPressOnABarThatOpensNoMenuOfOursHidesThePanelShortl
     desk.runLoop.advance(1h);
     EXPECT_TRUE(desk.isPanelVisible);
     desk.gesture.release();
-    desk.runLoop.advance(299ms);
+    desk.runLoop.advance(799ms);
     EXPECT_TRUE(desk.isPanelVisible);
 
     desk.runLoop.advance(1ms);
