@@ -66,7 +66,9 @@ protected:
     void settle()
     {
         runLoop.runTurns();
-        QCoreApplication::processEvents();
+        // One layout asks for the next, from the inside out.
+        for (int depth = 0; depth < 8; ++depth)
+            QCoreApplication::processEvents();
     }
 
     /// A picker is named by its value and described by its title.
