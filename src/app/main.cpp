@@ -23,6 +23,7 @@
 #include "style/Appearance.h"
 
 #include <QApplication>
+#include <QWindow>
 
 #include <csignal>
 
@@ -35,6 +36,13 @@ void preferX11()
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "xcb");
+}
+
+/// The toolkit takes the class of all windows from the application's name at the time of the first one.
+void setWindowClass(const QString& windowClass)
+{
+    QApplication::setApplicationName(windowClass);
+    QWindow().create();
 }
 
 int run(QApplication& application)
@@ -111,6 +119,7 @@ int main(int argc, char* argv[])
     velto::preferX11();
 
     QApplication application(argc, argv);
+    velto::setWindowClass(QStringLiteral("org.velto.Velto"));
     QApplication::setApplicationName(QStringLiteral("velto"));
     QApplication::setApplicationDisplayName(QStringLiteral("velto"));
     QApplication::setDesktopFileName(QStringLiteral("org.velto.Velto"));

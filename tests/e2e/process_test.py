@@ -39,6 +39,14 @@ class TheProcess(unittest.TestCase):
 
         holds(lambda: velto.card_is_visible, 1)
 
+    def test_its_windows_belong_to_the_desktop_entry(self):
+        self.start({})
+
+        tree = desktop.ask("xwininfo", "-root", "-tree")
+
+        self.assertIn('("velto" "org.velto.Velto")', tree)
+        self.assertNotIn('("velto" "velto")', tree)
+
     def test_quit_ends_it_well(self):
         velto = self.start({})
 
