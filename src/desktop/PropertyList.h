@@ -16,8 +16,8 @@ namespace velto {
 /// Entries of kinds that StoredValue does not know are carried along unchanged.
 class PropertyList {
 public:
-    static constexpr std::size_t maximumSize
-        = 512 * 1024; ///< Bytes. libplist runs out of stack on hostile ones of twice that.
+    /// Bytes. libplist runs out of stack on hostile ones of twice that.
+    static constexpr std::size_t maximumSize = std::size_t{512} * 1024;
     static constexpr int maximumDepth = 64;
 
     PropertyList();

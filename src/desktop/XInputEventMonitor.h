@@ -9,7 +9,7 @@
 #include <memory>
 
 class QSocketNotifier;
-struct _XDisplay;
+struct _XDisplay; // NOLINT(bugprone-reserved-identifier): not ours
 
 namespace velto {
 
