@@ -203,6 +203,9 @@ class VirtualDesktop:
             self.run("xfwm4", f"--compositor={'on' if self._compositing else 'off'}", "--sm-client-disable")
             wait_for(lambda: "window id" in self.ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
                      what="a window manager")
+        if self._compositing:
+            self.run("/usr/bin/python3", os.path.join(_HERE, "backdrop.py"), *map(str, self.size),
+                     *(("#2b3a4a", "#151c24") if self.dark else ("#9fb6c9", "#5f7d99")))
         self.start_host()
 
     def _start_x_server(self):
@@ -379,10 +382,17 @@ class VirtualDesktop:
             command += ["keyup", key]
         self.ask(*command)
 
+    def _drawn_item(self):
+        """The item's rectangle, once there is something in it and it stays where it is."""
+        rectangle = self.item_rectangle
+        picture = self.picture().crop(*rectangle)
+        colours = {picture.rgb[start:start + 3] for start in range(0, len(picture.rgb), 3)}
+        return rectangle if len(colours) > 8 and self.item_rectangle == rectangle else None
+
     def click_item(self, button=1, modifiers=()):
         """A real click on the program's item in the panel bar. Returns when the bar has told the item of a
         left one."""
-        x, y, width, height = wait_for(lambda: self.item_rectangle, what="the item in the panel bar")
+        x, y, width, height = wait_for(self._drawn_item, what="the item in the panel bar")
         before = self.activations
         self.click(x + width // 2, y + height // 2, button, modifiers)
         if button == 1:
