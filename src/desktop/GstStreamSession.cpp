@@ -250,8 +250,10 @@ void GstStreamSession::connect(const std::string& url)
     qCDebug(audioLog) << "opening" << url.c_str();
     if (gst_element_set_state(pipeline.get(), GST_STATE_PLAYING) != GST_STATE_CHANGE_FAILURE)
         attend(volume.get());
-    waitForAnswer();
-    gst_element_set_state(pipeline.get(), GST_STATE_NULL);
+    letItStart(volume.get());
+    // A change of state that is still under way may cut the one to the end short.
+    for (int i = 0; i < 10 && GST_STATE(pipeline.get()) != GST_STATE_NULL; ++i)
+        gst_element_set_state(pipeline.get(), GST_STATE_NULL);
     qCDebug(audioLog) << "closed" << url.c_str();
 }
 
@@ -281,14 +283,15 @@ void GstStreamSession::attend(GstElement* volume)
     }
 }
 
-/// Gives the server a last moment to answer the request.
+/// Gives a pipeline that is being put together a moment to be finished, in silence.
 ///
-/// libsoup 3.2 may crash when a request is cancelled while its answer comes in. A server that
-/// has not answered by then is not about to.
-void GstStreamSession::waitForAnswer()
+/// GStreamer 1.22 with libsoup 3.2 may crash when it is taken down in the moment in which the
+/// answer of the server comes in or the decoder is chosen. What takes longer is only waiting.
+void GstStreamSession::letItStart(GstElement* volume)
 {
+    g_object_set(volume, "volume", 0.0, nullptr);
     std::unique_lock lock(m_mutex);
-    m_changed.wait_for(lock, 250ms, [this] { return m_connection.answered || m_connection.failed; });
+    m_changed.wait_for(lock, 300ms, [this] { return m_connection.firstSound || m_connection.failed; });
 }
 
 /// Whether nobody stopped the session meanwhile.
@@ -324,11 +327,6 @@ GstBusSyncReply GstStreamSession::onMessage(GstBus*, GstMessage* message, gpoint
         self.noteFailure();
         break;
     case GST_MESSAGE_ELEMENT:
-        if (gst_message_has_name(message, "http-headers")) {
-            const std::lock_guard lock(self.m_mutex);
-            self.m_connection.answered = true;
-            self.m_changed.notify_all();
-        }
         if (auto location = redirectionIn(gst_message_get_structure(message)); !location.empty()) {
             const std::lock_guard lock(self.m_mutex);
             self.m_connection.redirection = redirectionTarget(self.m_connection.url, location);
@@ -353,8 +351,10 @@ GstPadProbeReturn GstStreamSession::onSound(GstPad*, GstPadProbeInfo*, gpointer 
     auto& self = *static_cast<GstStreamSession*>(session);
     const std::lock_guard lock(self.m_mutex);
     self.m_connection.lastSound = Clock::now();
-    if (!self.m_connection.firstSound)
+    if (!self.m_connection.firstSound) {
         self.m_connection.firstSound = self.m_connection.lastSound;
+        self.m_changed.notify_all();
+    }
     return GST_PAD_PROBE_OK;
 }
 

@@ -31,7 +31,6 @@ private:
     /// What is known of the connection under way.
     struct Connection {
         std::string url;
-        bool answered = false;
         bool failed = false;
         std::string redirection; ///< Where the server wants us to go instead; empty if nowhere.
         Clock::time_point opened = Clock::now();
@@ -42,7 +41,7 @@ private:
     void connect(const std::string& url);
     float applyVolume(GstElement* volume);
     void attend(GstElement* volume);
-    void waitForAnswer();
+    void letItStart(GstElement* volume);
     void noteFailure();
     bool wait(Clock::duration delay);
     bool isStopped();

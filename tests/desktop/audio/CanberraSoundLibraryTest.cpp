@@ -23,7 +23,7 @@ class CanberraSoundLibraryTest : public testing::Test {
 protected:
     void TearDown() override
     {
-        EXPECT_LE(loop.longestStall(), 50ms);
+        EXPECT_TRUE(loop.ranSmoothly()) << loop.longestStall().count() << " ms";
         const auto start = Clock::now();
         library.reset();
         EXPECT_LT(Clock::now() - start, 1s);

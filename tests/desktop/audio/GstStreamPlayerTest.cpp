@@ -4,6 +4,7 @@
 #include <malloc.h>
 
 #include <cmath>
+#include <utility>
 
 namespace velto {
 namespace {
@@ -88,19 +89,15 @@ TEST_F(GstStreamPlayerTest, VolumeIsLinear)
 {
     play(streams.url("tone.mp3"));
     ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
-    const auto settledAmplitude = [&](float volume) {
+    const std::pair<float, double> volumes[]{
+        {0.5F, 0.5}, {0.25F, 0.25}, {1.7F, 1}, {-0.2F, 0}, {0.5F, 0.5}, {std::nanf(""), 0}, {1, 1}};
+    for (const auto& [volume, amplitude] : volumes) {
         player->setVolume(volume);
-        const auto changed = Clock::now();
-        EXPECT_TRUE(eventually([&] { return Clock::now() - changed > 800ms; }));
-        return recording->amplitude(tone);
-    };
-
-    const double full = settledAmplitude(1);
-    EXPECT_NEAR(settledAmplitude(0.5) / full, 0.5, 0.025);
-    EXPECT_NEAR(settledAmplitude(0.25) / full, 0.25, 0.0125);
-    EXPECT_NEAR(settledAmplitude(1.7F) / full, 1, 0.05);
-    EXPECT_NEAR(settledAmplitude(-0.2F) / full, 0, 0.001);
-    EXPECT_NEAR(settledAmplitude(std::nanf("")) / full, 0, 0.001);
+        EXPECT_TRUE(eventually([&] {
+            return std::abs(recording->amplitude(tone) / toneAmplitude - amplitude) < std::max(0.05 * amplitude, 0.001);
+        })) << volume
+            << " gives " << recording->amplitude(tone) / toneAmplitude;
+    }
 }
 
 TEST_F(GstStreamPlayerTest, StartsAtTheVolumeSetBefore)
@@ -194,6 +191,8 @@ protected:
     /// Plays each of `urls` in turn, twenty times to get to know them, and then 180 times more.
     void leavesNothingBehind(const std::vector<std::string>& urls)
     {
+        // Two hundred streams in as many moments keep a small machine busy; others watch the loop.
+        loop.reset();
         // What the first stream ever brings with it stays.
         play(streams.url("tone.mp3"));
         ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
@@ -229,6 +228,15 @@ protected:
 TEST_F(ManyRoundsTest, OfPlayingLeaveNothingBehind)
 {
     leavesNothingBehind({streams.url("tone.mp3")});
+}
+
+TEST_F(ManyRoundsTest, OfMisbehaviourLeaveNothingBehind)
+{
+    leavesNothingBehind({streams.url("silent"), streams.url("missing"), streams.url("broken"), streams.url("page"),
+        streams.url("garbage"), streams.url("loop/1"), streams.url("to-plain", "good"), streams.url("to-file"),
+        streams.url("dropping"), streams.url("stalling"), streams.url("trickle"), streams.url("tone.mp3", "wrong-host"),
+        streams.url("tone.mp3", "expired"), streams.url("tone.mp3", "unknown-authority"), streams.url("titles"),
+        streams.url("long-name"), streams.url("playlist.m3u"), streams.url("playlist.m3u8/passwd")});
 }
 
 } // namespace

@@ -29,12 +29,18 @@ LoopWatch::LoopWatch() : m_last(std::chrono::steady_clock::now()), m_lastQueued(
     m_timer.start(5ms);
 }
 
+bool LoopWatch::ranSmoothly() const
+{
+    return m_stalls <= 2 && m_longest < 400ms;
+}
+
 void LoopWatch::check()
 {
     const auto now = std::chrono::steady_clock::now();
     const auto queued = timeQueued();
     const auto stall = now - m_last - (queued - m_lastQueued) - m_timer.intervalAsDuration();
     m_longest = std::max(m_longest, std::chrono::duration_cast<std::chrono::milliseconds>(stall));
+    m_stalls += stall > 50ms;
     m_last = now;
     m_lastQueued = queued;
 }
