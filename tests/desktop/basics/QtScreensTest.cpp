@@ -84,19 +84,20 @@ TEST(QtScreensTest, ABarTakesRoomOfTheScreenItStandsOnOnly)
 {
     Desktop::current().startWindowManager();
     makeTwoScreens();
-    OtherWindow top{{1000, 0, 1280, 28}, OtherWindow::Kind::dock};
-    top.setStrut(0, 0, 28, 0);
-    top.show();
+    // Measured from the edge of the whole desktop, it would reach far into the other screen.
+    OtherWindow bottom{{1000, 772, 1280, 28}, OtherWindow::Kind::dock};
+    bottom.setStrut(0, 0, 0, 428);
+    bottom.show();
     OtherWindow left{{0, 300, 64, 900}, OtherWindow::Kind::dock};
     left.setStrut(64, 0, 0, 0);
     left.show();
     const QtScreens screens;
 
-    EXPECT_TRUE(eventually([&] { return screens.mainScreen()->visibleFrame == Rect{1000, 0, 1280, 772}; }));
+    EXPECT_TRUE(eventually([&] { return screens.mainScreen()->visibleFrame == Rect{1000, 28, 1280, 772}; }));
     EXPECT_TRUE(eventually([&] {
         return screens.screenOf({100, 0, 40, 22})->visibleFrame == Rect{64, -400, 936, 900};
     }));
-    EXPECT_EQ(screens.mainScreen(), (Screen{mainFrame, {1000, 0, 1280, 772}}));
+    EXPECT_EQ(screens.mainScreen(), (Screen{mainFrame, {1000, 28, 1280, 772}}));
     EXPECT_EQ(screens.screenOf({100, 0, 40, 22}), (Screen{sideFrame, {64, -400, 936, 900}}));
 }
 
