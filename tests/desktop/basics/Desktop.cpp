@@ -54,6 +54,7 @@ Desktop::Desktop()
 
 Desktop::~Desktop()
 {
+    m_probes.clear();
     for (auto process = m_processes.rbegin(); process != m_processes.rend(); ++process) {
         (*process)->kill();
         (*process)->waitForFinished();
@@ -90,11 +91,14 @@ void Desktop::startWindowManager(const QString& program)
     if (program == QStringLiteral("xfwm4"))
         arguments << QStringLiteral("--compositor=off");
     start(program, arguments);
-    // It announces itself before it looks after windows: a first one may be overlooked.
-    const auto looksAfterWindows = [] {
-        OtherWindow probe{{0, 0, 50, 50}};
-        probe.show();
-        return QTest::qWaitFor([&] { return x11::outermost(probe.id()) != probe.id(); }, moment);
+    // It announces itself before it looks after windows: a first one may be overlooked. The server would
+    // give the name of one that is gone to the next, which confuses window managers: they are kept.
+    const auto looksAfterWindows = [this] {
+        const auto& probe = *m_probes.emplace_back(std::make_unique<OtherWindow>(QRect{0, 0, 50, 50}));
+        m_probes.back()->show();
+        const bool isManaged = QTest::qWaitFor([&] { return x11::outermost(probe.id()) != probe.id(); }, moment);
+        m_probes.back()->hide();
+        return isManaged;
     };
     if (!eventually(looksAfterWindows) || !eventually([] { return x11::hasWindowManager(); }))
         throw std::runtime_error("no window manager");

@@ -14,6 +14,8 @@ class QProcess;
 
 namespace velto {
 
+class OtherWindow;
+
 /// An X server, a session bus and a home for this process alone. To be made before the application.
 class Desktop {
 public:
@@ -40,6 +42,7 @@ public:
 private:
     TemporaryFolder m_home;
     std::vector<std::unique_ptr<QProcess>> m_processes;
+    std::vector<std::unique_ptr<OtherWindow>> m_probes;
 };
 
 /// Lets events be handled until `condition` holds; false when it never does.

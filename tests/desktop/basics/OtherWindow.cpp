@@ -66,6 +66,12 @@ void OtherWindow::show()
     sync();
 }
 
+void OtherWindow::hide()
+{
+    xcb_unmap_window(m_connection, m_window);
+    sync();
+}
+
 void OtherWindow::grabPointer()
 {
     owned(xcb_grab_pointer_reply(m_connection,

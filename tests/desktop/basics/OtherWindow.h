@@ -25,6 +25,7 @@ public:
     /// What a dock keeps free: left, right, top, bottom, in pixels from the edges of the desktop.
     void setStrut(std::uint32_t left, std::uint32_t right, std::uint32_t top, std::uint32_t bottom);
     void show();
+    void hide();
     /// Holds all input back from everybody else.
     void grabPointer();
     void ungrabPointer();

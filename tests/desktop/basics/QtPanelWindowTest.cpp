@@ -165,7 +165,7 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(WindowManagers, QtPanelWindowUnder, testing::Values("", "xfwm4"),
+INSTANTIATE_TEST_SUITE_P(WindowManagers, QtPanelWindowUnder, testing::Values("", "xfwm4", "openbox"),
     [](const auto& name) { return *name.param ? std::string{name.param} : std::string{"none"}; });
 
 TEST_P(QtPanelWindowUnder, TheKeyboardStaysWhereItIs)
