@@ -41,6 +41,7 @@ const std::string lush{streamUrl(MusicPreset::lush)};
 
 class SettingsFormTest : public testing::Test {
 protected:
+    Calls calls; ///< Everything that reaches the store, the timer and the players, in order.
     FakeKeyValueStore store;
     FakeSoundLibrary sounds;
     FakeStreamPlayerFactory players;
@@ -48,7 +49,6 @@ protected:
     std::optional<AppSettings> settings;
     std::optional<PomodoroTimer> timer;
     std::optional<SettingsForm> form;
-    Calls calls; ///< Everything that reaches the store, the timer and the players, in order.
     std::vector<Subscription> subscriptions;
 
     void launch()
