@@ -2,6 +2,8 @@
 #include "desktop/QtRunLoop.h"
 
 #include <QBasicTimer>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QPointer>
 #include <QTimerEvent>
 
@@ -75,11 +77,39 @@ private:
     QBasicTimer m_timer;
 };
 
-Subscription handleOf(Job* job)
+/// Work to be done once the event being handled now is over.
+class Turn final : public QObject {
+public:
+    Turn(QObject& parent, std::function<void()> work) : QObject(&parent), m_work(std::move(work))
+    {
+        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+    }
+
+    void cancel()
+    {
+        m_work = nullptr;
+        deleteLater();
+    }
+
+protected:
+    void customEvent(QEvent* /*event*/) override
+    {
+        deleteLater();
+        // The work may drop this object.
+        if (const auto work = std::exchange(m_work, nullptr))
+            work();
+    }
+
+private:
+    std::function<void()> m_work;
+};
+
+template <class Scheduled>
+Subscription handleOf(Scheduled* scheduled)
 {
-    return Subscription([job = QPointer(job)] {
-        if (job)
-            job->cancel();
+    return Subscription([scheduled = QPointer(scheduled)] {
+        if (scheduled)
+            scheduled->cancel();
     });
 }
 
@@ -98,15 +128,7 @@ Subscription QtRunLoop::after(std::chrono::milliseconds delay, std::function<voi
 
 Subscription QtRunLoop::nextTurn(std::function<void()> work)
 {
-    auto pending = std::make_shared<std::function<void()>>(std::move(work));
-    QMetaObject::invokeMethod(
-        &m_scheduled,
-        [pending] {
-            if (const auto due = std::exchange(*pending, nullptr))
-                due();
-        },
-        Qt::QueuedConnection);
-    return Subscription([pending] { *pending = nullptr; });
+    return handleOf(new Turn(m_scheduled, std::move(work)));
 }
 
 } // namespace velto
