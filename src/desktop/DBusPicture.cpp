@@ -8,11 +8,12 @@ namespace velto {
 DBusPicture dbusPicture(const QImage& image)
 {
     const auto pixels = image.convertToFormat(QImage::Format_ARGB32);
-    DBusPicture picture{pixels.width(), pixels.height(), QByteArray(pixels.width() * pixels.height() * 4, '\0')};
+    const qsizetype bytesPerLine = qsizetype{pixels.width()} * 4;
+    DBusPicture picture{pixels.width(), pixels.height(), QByteArray(bytesPerLine * pixels.height(), '\0')};
     auto* out = picture.bytes.data();
     for (int y = 0; y < pixels.height(); ++y) {
         qToBigEndian<quint32>(pixels.constScanLine(y), pixels.width(), out);
-        out += pixels.width() * 4;
+        out += bytesPerLine;
     }
     return picture;
 }

@@ -88,7 +88,11 @@ class TheProcess(unittest.TestCase):
 
         self.assertEqual(velto.time, "25:00")
         folder = os.path.dirname(desktop.settings_file)
-        aside = [name for name in os.listdir(folder) if name.startswith("defaults.plist.corrupt-")]
+
+        def moved_aside():
+            return [name for name in os.listdir(folder) if name.startswith("defaults.plist.corrupt-")]
+
+        aside = wait_for(moved_aside, what="the first assignment of the new file, that the user was welcomed")
         self.assertEqual(len(aside), 1)
         with open(os.path.join(folder, aside[0]), encoding="utf-8") as file:
             self.assertEqual(file.read(), "not a property list")
