@@ -16,7 +16,7 @@ namespace {
 
 QImage transparentImage(int width, int height)
 {
-    QImage image(width, height, QImage::Format_ARGB32);
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     return image;
 }
@@ -25,7 +25,10 @@ void paint(QImage& image, const QPainterPath& path, const StatusPictureInk& ink)
 {
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
+    // On nothing, replacing is the same as blending, and does not wake a pool of threads for it.
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.strokePath(path, QPen(ink.halo, image.height() / 12.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.fillPath(path, ink.text);
 }
 

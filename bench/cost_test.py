@@ -1,0 +1,117 @@
+# SPDX-License-Identifier: MIT
+"""What velto costs, beside the least program of its kind on the same desktop at the same time."""
+import glob
+import os
+import re
+import statistics
+import time
+import unittest
+
+from desktop import VirtualDesktop, wait_for
+
+VELTO, FLOOR = os.environ["VELTO_BIN"], os.environ["FLOOR_BIN"]
+
+
+def cost(pid):
+    """CPU time in seconds and the number of wake-ups so far, of all threads."""
+    seconds = wake_ups = 0
+    for task in glob.glob(f"/proc/{pid}/task/*"):
+        with open(f"{task}/schedstat", encoding="ascii") as file:
+            seconds += int(file.read().split()[0]) / 1e9
+        with open(f"{task}/status", encoding="ascii") as file:
+            wake_ups += int(re.search(r"\nvoluntary_ctxt_switches:\s+(\d+)", file.read())[1])
+    return seconds, wake_ups
+
+
+def cost_a_second(pids, duration=10):
+    before = [cost(pid) for pid in pids]
+    time.sleep(duration)
+    return [tuple((now - then) / duration for now, then in zip(cost(pid), start)) for pid, start in zip(pids, before)]
+
+
+def memory(pid):
+    """In MiB, shared pages counted in part."""
+    with open(f"/proc/{pid}/smaps_rollup", encoding="ascii") as file:
+        return int(re.search(r"\nPss:\s+(\d+) kB", file.read())[1]) / 1024
+
+
+def wait_until_quiet(pid):
+    wait_for(lambda: cost_a_second([pid], 1)[0][1] == 0, what="a program at rest")
+
+
+class Cost(unittest.TestCase):
+    def setUp(self):
+        self.desktop = self.enterContext(VirtualDesktop())
+
+    def start_floor(self):
+        before = self.icons
+        process = self.desktop.run(FLOOR)
+        wait_for(lambda: self.icons > before, what="the floor's icon")
+        return process
+
+    @property
+    def icons(self):
+        listed = self.desktop.ask("gdbus", "call", "--session", "--dest", "org.kde.StatusNotifierWatcher",
+                                  "--object-path", "/StatusNotifierWatcher", "--method",
+                                  "org.freedesktop.DBus.Properties.Get", "org.kde.StatusNotifierWatcher",
+                                  "RegisteredStatusNotifierItems")
+        return listed.count("/StatusNotifierItem")
+
+    def start_velto(self):
+        velto = self.desktop.start_velto({})
+        wait_for(lambda: velto.card_is_visible, what="the card, shown at launch")
+        return velto
+
+    def hide_card(self, velto):
+        self.desktop.click(20, self.desktop.size[1] - 20)
+        wait_for(lambda: not velto.card_is_visible, what="the hidden card")
+
+    def test_nothing_happens_while_nothing_counts(self):
+        velto = self.start_velto()
+        wait_until_quiet(velto.pid)
+        self.assertEqual(cost_a_second([velto.pid], 5)[0][1], 0, "with the card on show")
+
+        self.hide_card(velto)
+        wait_until_quiet(velto.pid)
+        self.assertEqual(cost_a_second([velto.pid], 5)[0][1], 0, "with the card hidden")
+
+    def test_counting_costs_little_more_than_the_least_program(self):
+        velto = self.start_velto()
+        velto.press("Start")
+        self.hide_card(velto)
+        floor = self.start_floor()
+        time.sleep(2)
+
+        of_velto, of_floor = cost_a_second([velto.pid, floor.pid])
+
+        print(f"\ncounting: {of_velto[0]:.2%} of a core and {of_velto[1]:.1f} wake-ups a second, "
+              f"the floor {of_floor[0]:.2%} and {of_floor[1]:.1f}; "
+              f"memory {memory(velto.pid):.1f} MiB, the floor {memory(floor.pid):.1f} MiB")
+        self.assertLess(of_velto[0], 3 * of_floor[0])  # four digits with a halo against two without
+        self.assertLess(of_velto[1], 1.5 * of_floor[1])
+        self.assertLess(memory(velto.pid), 2 * memory(floor.pid))
+
+    def test_starts_as_fast_as_the_least_program(self):
+        def seconds(start):
+            begin = time.monotonic()
+            process = start()
+            duration = time.monotonic() - begin
+            process.kill()
+            process.wait()
+            wait_for(lambda: self.icons == 0, what="the end of the icon")
+            return duration
+
+        def start_velto():
+            process = self.desktop.run(VELTO)
+            wait_for(lambda: self.icons == 1, what="velto's item")
+            return process
+
+        of_velto = statistics.median(seconds(start_velto) for _ in range(7))
+        of_floor = statistics.median(seconds(self.start_floor) for _ in range(7))
+
+        print(f"\nstart-up: {of_velto * 1000:.0f} ms, the floor {of_floor * 1000:.0f} ms")
+        self.assertLess(of_velto, 1.5 * of_floor)
+
+
+if __name__ == "__main__":
+    unittest.main()
