@@ -33,6 +33,7 @@ _ROOT = os.path.dirname(os.path.dirname(_HERE))
 _ATSPI = ("/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher")
 
 _TIME = re.compile(r"\d{2,}:\d\d")
+_ANNOUNCEMENT = re.compile(r'signal time=(\S+) sender=(\S+) .*member=XAyatanaNewLabel\n   string "([^"]*)"\n')
 
 
 class Velto:
@@ -363,11 +364,15 @@ class VirtualDesktop:
             return file.read().count("member=Activate")
 
     @property
-    def announced_labels(self):
-        """Every label that items have announced so far. None is missed, however busy the machine; there are
-        some only beside a bar that shows labels."""
+    def announcements(self):
+        """(when on the wall clock, whose bus name, which label) for every label that items have announced so
+        far. None is missed, however busy the machine; there are some only beside a bar that shows labels."""
         with open(self.path("overheard"), encoding="utf-8") as file:
-            return re.findall(r'member=XAyatanaNewLabel\n   string "([^"]*)"\n', file.read())
+            return [(float(when), sender, label) for when, sender, label in _ANNOUNCEMENT.findall(file.read())]
+
+    @property
+    def announced_labels(self):
+        return [label for _, _, label in self.announcements]
 
     def move(self, x, y):
         self.ask("xdotool", "mousemove", str(x), str(y))

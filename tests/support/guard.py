@@ -15,17 +15,21 @@ import sys
 import time
 
 
-def processes_of(folder):
-    mark = b"VELTO_DESKTOP=" + os.fsencode(folder)
+def processes_with(variable):
+    """Every process but this one that has "NAME=value" in its environment, from its start on."""
     for entry in os.listdir("/proc"):
         if not entry.isdigit() or int(entry) == os.getpid():
             continue
         try:
             with open(f"/proc/{entry}/environ", "rb") as environ:
-                if mark in environ.read().split(b"\0"):
+                if os.fsencode(variable) in environ.read().split(b"\0"):
                     yield int(entry)
         except OSError:
             pass  # gone, or not ours
+
+
+def processes_of(folder):
+    return processes_with(f"VELTO_DESKTOP={folder}")
 
 
 def end_all(folder):
