@@ -7,7 +7,7 @@ from panel_stories import PanelStories
 
 class TheLxqtPanel(PanelStories, unittest.TestCase):
     host = "lxqt"
-    chatter = 4  # it asks for each property of a new picture on its own
+    questions = 3  # the path of its theme, the name, then the picture
 
 
 if __name__ == "__main__":

@@ -7,7 +7,7 @@ from panel_stories import PanelStories
 
 class TheMatePanel(PanelStories, unittest.TestCase):
     host = "mate"
-    chatter = 3  # it asks for each property of a new picture on its own
+    questions = 2  # the name and the picture, each on its own
 
 
 if __name__ == "__main__":

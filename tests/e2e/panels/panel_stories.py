@@ -6,7 +6,7 @@ from gi.repository import Gio, GLib
 
 from desktop import VirtualDesktop, holds, wait_for
 from menus import MenuOnScreen
-from messages import messages_of
+from messages import Messages, messages_in
 
 
 def labels(entry):
@@ -15,10 +15,7 @@ def labels(entry):
 
 
 class PanelStories:
-    """Subclasses say which bar: `host`; and how many messages a second the program may send there while it
-    counts: `chatter`, its signal and the answers that this host asks for."""
-
-    chatter = 2
+    """Subclasses say which bar: `host`; and how many questions it asks about each new picture: `questions`."""
 
     @classmethod
     def setUpClass(cls):
@@ -141,18 +138,35 @@ class PanelStories:
                  what="other entries in the menu")
         self.desktop.key("Escape")
 
-    def test_the_bus_is_quiet(self):
-        name = self.velto.item.bus_name
+    def wait_for_silence(self):
+        """Until the host has asked its last question about what was before."""
+        wait_for(lambda: not messages_in(self.desktop, self.velto.item.bus_name, 1), what="silence on the bus")
+
+    def test_counting_costs_one_signal_a_second_and_the_answers_to_the_host(self):
         self.velto.press("Start")
         self.hide_the_card()
         self.desktop.move(600, 10)
         wait_for(lambda: self.velto.item.label < "24:58")
 
-        sent, seconds = messages_of(self.desktop, name, 5)
-        self.assertLessEqual(sent, self.chatter * (seconds + 1))
-        self.assertGreaterEqual(sent, seconds - 1)
+        with Messages(self.desktop, self.velto.item.bus_name) as messages:
+            wait_for(lambda: messages.sent.count("NewIcon") == 1)
+            started = time.monotonic()
+            wait_for(lambda: messages.sent.count("NewIcon") == 6)
+            seconds = time.monotonic() - started
 
+        heard = messages.sent[messages.sent.index("NewIcon"):]
+        self.assertEqual(heard[:5 * (1 + self.questions)], 5 * ["NewIcon", *self.questions * ["answer"]])
+        self.assertAlmostEqual(seconds, 5, delta=0.5)
+
+    def test_nothing_is_said_while_the_timer_is_idle_or_paused(self):
+        name = self.velto.item.bus_name
+        self.hide_the_card()
+        self.wait_for_silence()
+        self.assertEqual(messages_in(self.desktop, name, 3), [])
+
+        self.velto.item.choose("Start Focus")
+        wait_for(lambda: self.velto.item.label < "24:59")
         self.velto.item.choose("Pause Focus")
         wait_for(lambda: self.velto.item.menu().find("Start Focus"))
-        time.sleep(1)  # for the host's last questions
-        self.assertEqual(messages_of(self.desktop, name, 4)[0], 0)
+        self.wait_for_silence()
+        self.assertEqual(messages_in(self.desktop, name, 3), [])

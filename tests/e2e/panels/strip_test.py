@@ -3,6 +3,7 @@
 import unittest
 
 from desktop import VirtualDesktop, holds, wait_for
+from messages import messages_in
 
 MENU_ROLES = ("menu item", "check menu item")
 
@@ -126,6 +127,13 @@ class TheStrip(unittest.TestCase):
 
         for second in ("24:59", "24:58", "24:57"):
             wait_for(lambda: self.strip().name == second)
+
+    def test_without_a_host_nothing_is_said_on_the_bus(self):
+        self.velto.press("Start")
+        wait_for(lambda: self.strip().name < "24:59")
+
+        self.assertEqual(messages_in(self.desktop, self.velto.item.bus_name, 3), [])
+        self.assertLess(self.strip().name, "24:58")
 
 
 if __name__ == "__main__":

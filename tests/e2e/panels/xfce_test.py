@@ -8,6 +8,7 @@ from waiting import wait_for
 
 class TheXfcePanel(PanelStories, unittest.TestCase):
     host = "xfce"
+    questions = 1  # all properties at once
 
     def windows(self):
         return len(self.desktop.ask("xdotool", "search", "--onlyvisible", "--class", "org.velto.Velto").split())
