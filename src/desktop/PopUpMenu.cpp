@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/PopUpMenu.h"
 
+#include "desktop/AccessibleApplication.h"
 #include "desktop/MenuText.h"
 #include "desktop/X11Pointer.h"
 #include "style/Symbols.h"
@@ -47,6 +48,7 @@ QPoint placeMenu(const QSize& size, const QRect& anchor)
 
 PopUpMenu::PopUpMenu(Handlers handlers) : m_handlers(std::move(handlers))
 {
+    AccessibleApplication::install();
     m_refresh.setSingleShot(true);
     m_refresh.setInterval(0);
     connect(&m_refresh, &QTimer::timeout, this, &PopUpMenu::refresh);
@@ -117,6 +119,9 @@ void PopUpMenu::refresh()
 
 void PopUpMenu::chosen(const std::shared_ptr<MenuItem>& item)
 {
+    // Chosen by assistive technology, it is still open.
+    if (m_shown)
+        m_shown->close();
     // Later: the menu is still on its way out.
     QTimer::singleShot(0, this, [item] {
         if (item->action)

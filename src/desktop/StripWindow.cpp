@@ -6,9 +6,8 @@
 #include "style/ContinuousRect.h"
 
 #include <QAccessibleWidget>
-#include <QApplication>
 #include <QFontMetricsF>
-#include <QMenu>
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -129,17 +128,6 @@ private:
             return kind == QAccessible::Name ? m_face.text() : QAccessibleWidget::text(kind);
         }
 
-        // The menu is a window of its own, and hangs under the strip that it opens from.
-        [[nodiscard]] int childCount() const override { return openMenu() ? 1 : 0; }
-        [[nodiscard]] QAccessibleInterface* child(int /*index*/) const override
-        {
-            return QAccessible::queryAccessibleInterface(openMenu());
-        }
-        int indexOfChild(const QAccessibleInterface* child) const override
-        {
-            return openMenu() && child->object() == openMenu() ? 0 : -1;
-        }
-
         [[nodiscard]] QStringList actionNames() const override { return {pressAction(), showMenuAction()}; }
 
         void doAction(const QString& name) override
@@ -151,14 +139,6 @@ private:
         }
 
     private:
-        [[nodiscard]] static QMenu* openMenu()
-        {
-            for (auto* window : QApplication::topLevelWidgets())
-                if (auto* menu = qobject_cast<QMenu*>(window); menu && menu->isVisible() && !menu->parentWidget())
-                    return menu;
-            return nullptr;
-        }
-
         Face& m_face;
     };
 

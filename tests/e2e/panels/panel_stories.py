@@ -138,6 +138,60 @@ class PanelStories:
                  what="other entries in the menu")
         self.desktop.key("Escape")
 
+    def entries(self):
+        """The entries of our own menu, with those of its open submenus; none while it is closed."""
+        return [entry for entry in self.velto.app.find_all() if entry.role in ("menu item", "check menu item")]
+
+    def entry(self, name):
+        for entry in self.entries():
+            if entry.name == name:
+                return entry
+        raise LookupError(f"no menu entry {name!r}")
+
+    def wait_until_closed(self):
+        wait_for(lambda: not self.entries(), what="our menu closed")
+        self.hide_the_card()
+        self.show_the_card()
+
+    def test_control_with_a_left_click_opens_our_menu_for_the_keyboard(self):
+        self.click_item(modifiers=("ctrl",))
+        wait_for(lambda: self.entry("Start Focus"))
+        self.assertTrue(self.velto.card_is_visible)
+
+        self.desktop.key("Down", "Down", "Down", "Down", "Right")  # Start, two durations, Presets
+        wait_for(lambda: self.entry("25m focus / 5m break").has_state("focused"))
+        self.desktop.key("Escape")
+        wait_for(lambda: self.entry("Presets").has_state("focused"))
+        self.desktop.key("Escape")
+        self.wait_until_closed()
+
+        self.click_item(modifiers=("ctrl",))
+        wait_for(lambda: self.entry("Start Focus"))
+        self.desktop.key("Down", "Return")
+        wait_for(lambda: self.velto.item.menu().find("Pause Focus"), what="Start chosen with the keyboard")
+        self.assertTrue(self.velto.card_is_visible)
+        self.wait_until_closed()
+
+    def test_our_menu_is_read_and_used_by_assistive_technology(self):
+        x, y, width, height = self.desktop.item_rectangle
+        self.desktop.move(x + width // 2, y + height // 2)
+        self.velto.item.context_menu(x, y)  # as a host does that draws no menus
+
+        wait_for(self.entries)
+        self.assertEqual([entry.name for entry in self.entries()], labels(self.velto.item.menu()))
+        self.assertFalse(self.entry("Auto-Transition").has_state("checked"))
+        self.entry("Auto-Transition").press()
+        wait_for(lambda: self.velto.item.menu().find("Auto-Transition").checked)
+        self.assertTrue(self.velto.card_is_visible)
+        self.wait_until_closed()
+
+        self.velto.item.context_menu(x, y)
+        self.assertTrue(wait_for(lambda: self.entry("Auto-Transition")).has_state("checked"))
+        self.entry("Presets").press()
+        wait_for(lambda: self.entry("50m focus / 10m break")).press()
+        wait_for(lambda: self.velto.settings.get("focusMinutes") == 50)
+        self.wait_until_closed()
+
     def wait_for_silence(self):
         """Until the host has asked its last question about what was before."""
         wait_for(lambda: not messages_in(self.desktop, self.velto.item.bus_name, 1), what="silence on the bus")
