@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <array>
+#include <initializer_list>
+#include <string_view>
 #include <utility>
 
 // Last: it defines words like None and Bool.
@@ -39,21 +41,29 @@ bool isOurs(xcb_window_t topLevel)
     });
 }
 
+bool isOfType(xcb_window_t window, std::initializer_list<std::string_view> names)
+{
+    static const xcb_atom_t property = x11::atom("_NET_WM_WINDOW_TYPE");
+    const auto types = x11::property(window, property);
+    return std::ranges::any_of(names, [&](auto name) { return std::ranges::count(types, x11::atom(name)) > 0; });
+}
+
+bool isMenu(xcb_window_t window)
+{
+    return isOfType(
+        window, {"_NET_WM_WINDOW_TYPE_POPUP_MENU", "_NET_WM_WINDOW_TYPE_DROPDOWN_MENU", "_NET_WM_WINDOW_TYPE_MENU"});
+}
+
+bool isBar(xcb_window_t window)
+{
+    return isOfType(window, {"_NET_WM_WINDOW_TYPE_DOCK"});
+}
+
 Press::Target targetOf(const std::vector<xcb_window_t>& windows)
 {
-    const xcb_atom_t type = x11::atom("_NET_WM_WINDOW_TYPE");
-    const xcb_atom_t dock = x11::atom("_NET_WM_WINDOW_TYPE_DOCK");
-    const std::array menus{x11::atom("_NET_WM_WINDOW_TYPE_POPUP_MENU"), x11::atom("_NET_WM_WINDOW_TYPE_DROPDOWN_MENU"),
-        x11::atom("_NET_WM_WINDOW_TYPE_MENU")};
-    for (const xcb_window_t window : windows) {
-        for (const auto kind : x11::property(window, type)) {
-            if (kind == dock)
-                return Press::Target::bar;
-            if (std::ranges::count(menus, kind) > 0)
-                return Press::Target::menu;
-        }
-    }
-    return Press::Target::elsewhere;
+    if (std::ranges::any_of(windows, isMenu))
+        return Press::Target::menu;
+    return std::ranges::any_of(windows, isBar) ? Press::Target::bar : Press::Target::elsewhere;
 }
 
 } // namespace
@@ -137,6 +147,8 @@ void XInputEventMonitor::followInterest()
     }
     XIEventMask mask{XIAllMasterDevices, static_cast<int>(bits.size()), bits.data()};
     XISelectEvents(m_display.get(), DefaultRootWindow(m_display.get()), &mask, 1);
+    XSelectInput(m_display.get(), DefaultRootWindow(m_display.get()), isWanted ? SubstructureNotifyMask : NoEventMask);
+    m_menus.clear();
     XFlush(m_display.get());
 }
 
@@ -145,28 +157,38 @@ void XInputEventMonitor::readEvents()
     while (XPending(m_display.get()) > 0) {
         XEvent event;
         XNextEvent(m_display.get(), &event);
-        if (event.type != GenericEvent || event.xcookie.extension != m_extension
-            || !XGetEventData(m_display.get(), &event.xcookie))
-            continue;
-        const XIRawEvent raw = *static_cast<const XIRawEvent*>(event.xcookie.data);
-        XFreeEventData(m_display.get(), &event.xcookie);
-
-        if (raw.evtype == XI_RawTouchBegin) {
-            press(false);
-        } else if (raw.evtype == XI_RawTouchEnd) {
-            m_gesture.release();
-        } else if ((raw.flags & XIPointerEmulated) == 0) {
-            // A touch has its own events.
-            const int button = arranged(m_display.get(), raw.detail);
-            if (button != leftButton && button != rightButton)
-                continue;
-            if (raw.evtype == XI_RawButtonPress)
-                press(button == rightButton);
-            else
-                m_gesture.release();
+        if (event.type == MapNotify) {
+            if (isMenu(static_cast<xcb_window_t>(event.xmap.window)))
+                m_menus.insert(event.xmap.window);
+        } else if (event.type == UnmapNotify) {
+            if (m_menus.erase(event.xunmap.window) > 0 && m_menus.empty())
+                m_gesture.menusGone();
+        } else if (event.type == GenericEvent && event.xcookie.extension == m_extension
+            && XGetEventData(m_display.get(), &event.xcookie)) {
+            const XIRawEvent raw = *static_cast<const XIRawEvent*>(event.xcookie.data);
+            XFreeEventData(m_display.get(), &event.xcookie);
+            readRawEvent(raw.evtype, raw.flags, raw.detail);
         }
     }
     followInterest();
+}
+
+void XInputEventMonitor::readRawEvent(int type, int flags, int detail)
+{
+    if (type == XI_RawTouchBegin) {
+        press(false);
+    } else if (type == XI_RawTouchEnd) {
+        m_gesture.release();
+    } else if ((flags & XIPointerEmulated) == 0) {
+        // A touch has its own events.
+        const int button = arranged(m_display.get(), detail);
+        if (button != leftButton && button != rightButton)
+            return;
+        if (type == XI_RawButtonPress)
+            press(button == rightButton);
+        else
+            m_gesture.release();
+    }
 }
 
 void XInputEventMonitor::press(bool isSecondary)

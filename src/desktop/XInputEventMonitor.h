@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include <memory>
+#include <set>
 
 class QSocketNotifier;
 struct _XDisplay; // NOLINT(bugprone-reserved-identifier): not ours
@@ -15,7 +16,8 @@ namespace velto {
 
 class ClickGesture;
 
-/// Sees every press on the X server, whoever holds a grab, through raw events of XInput 2.2.
+/// Sees every press on the X server, whoever holds a grab, through raw events of XInput 2.2, and the menus
+/// that go from the screen.
 ///
 /// Has a connection of its own, opened by the first monitor. The server is asked for events only while
 /// somebody watches or a gesture is under way.
@@ -40,6 +42,7 @@ private:
     [[nodiscard]] bool connect();
     void followInterest();
     void readEvents();
+    void readRawEvent(int type, int flags, int detail);
     void press(bool isSecondary);
     [[nodiscard]] std::function<void()> watchers();
 
@@ -49,6 +52,7 @@ private:
     std::unique_ptr<QSocketNotifier> m_notifier;
     int m_extension = 0;
     bool m_isListening = false;
+    std::set<unsigned long> m_menus; ///< On the screen, and come there while listening.
 };
 
 } // namespace velto

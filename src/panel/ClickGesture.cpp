@@ -55,7 +55,7 @@ void ClickGesture::press(const Press& press, std::function<void()> hide)
     m_hasHidden = false;
 
     if (m_menuIsOpen) {
-        // Not every host tells when its menu closes; a press beside it closes it.
+        // A press beside it closes it; where menus are no windows, nobody may tell.
         m_menuIsOpen = press.target == Press::Target::menu;
     } else if (press.opensMenus && press.target == Press::Target::bar) {
         m_waitingHide = std::move(hide);
@@ -74,6 +74,11 @@ void ClickGesture::release()
             if (const auto hide = std::exchange(m_waitingHide, nullptr))
                 hide();
         });
+}
+
+void ClickGesture::menusGone()
+{
+    m_menuIsOpen = false;
 }
 
 void ClickGesture::stopHiding()

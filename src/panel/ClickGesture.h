@@ -43,6 +43,8 @@ public:
     void press(const Press& press, std::function<void()> hide);
     /// The button or finger of the latest press has gone up.
     void release();
+    /// The last menu on the screen has gone, whosever it was: not every host tells when it closes ours.
+    void menusGone();
     /// The panel is not to be hidden any more: drops a hide that waits.
     void stopHiding();
     /// `catchUp` hands over every press and release that has happened by now but was not delivered yet.

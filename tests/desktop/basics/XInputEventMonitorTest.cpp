@@ -206,6 +206,49 @@ TEST_F(XInputEventMonitorTest, ARightPressOnABarWaitsForTheMenu)
     EXPECT_TRUE(count(2)) << presses;
 }
 
+TEST_F(XInputEventMonitorTest, AMenuThatIsGoneTakesNoPress)
+{
+    OtherWindow bar{{0, 0, 2400, 30}, OtherWindow::Kind::dock};
+    bar.show();
+    const auto token = watch();
+    ASSERT_TRUE(Desktop::click(1500, 10, 3));
+    gesture.menuRequested();
+    OtherWindow menu{{1450, 30, 200, 300}, OtherWindow::Kind::menu};
+    menu.show();
+    {
+        OtherWindow submenu{{1650, 30, 200, 300}, OtherWindow::Kind::menu};
+        submenu.show();
+    }
+    OtherWindow window{{100, 100, 300, 200}};
+    window.show();
+    window.hide();
+
+    ASSERT_TRUE(Desktop::click(1500, 100));
+    EXPECT_TRUE(stays([&] { return presses == 0; })) << "the menu is still there";
+    menu.hide();
+    ASSERT_TRUE(Desktop::click(1500, 900));
+    EXPECT_TRUE(count(1)) << presses;
+}
+
+TEST_F(XInputEventMonitorTest, APressThatClosesTheMenuBelongsToIt)
+{
+    OtherWindow bar{{0, 0, 2400, 30}, OtherWindow::Kind::dock};
+    bar.show();
+    const auto token = watch();
+    ASSERT_TRUE(Desktop::click(1500, 10, 3));
+    gesture.menuRequested();
+    OtherWindow menu{{1450, 30, 200, 300}, OtherWindow::Kind::menu};
+    menu.show();
+
+    // Both have happened by the time anything is read.
+    ASSERT_TRUE(Desktop::click(1500, 900));
+    menu.hide();
+
+    EXPECT_TRUE(stays([&] { return presses == 0; })) << presses;
+    ASSERT_TRUE(Desktop::click(1500, 900));
+    EXPECT_TRUE(count(1)) << presses;
+}
+
 TEST_F(XInputEventMonitorTest, AControlClickOnABarWaitsForTheMenuToo)
 {
     OtherWindow bar{{0, 0, 2400, 30}, OtherWindow::Kind::dock};

@@ -128,6 +128,26 @@ class PanelStories:
         self.assertTrue(self.velto.item.menu().find("Start Focus"))
         self.hide_the_card()
 
+    def test_after_escape_from_the_menu_a_press_elsewhere_hides_the_card_at_once(self):
+        menu, _ = self.open_menu()
+        self.desktop.key("Escape")
+        self.wait_until_gone(menu)
+        self.assertTrue(self.velto.card_is_visible)
+
+        self.desktop.click(300, 500)
+
+        wait_for(lambda: not self.velto.card_is_visible, 5, "the card hidden by the first press")
+
+    def test_a_press_beside_the_menu_closes_only_the_menu(self):
+        menu, _ = self.open_menu()
+
+        self.desktop.click(300, 500)
+        self.wait_until_gone(menu)
+        self.assertTrue(self.velto.card_is_visible)
+
+        self.desktop.click(300, 500)
+        wait_for(lambda: not self.velto.card_is_visible, 5, "the card hidden by the next press")
+
     def test_an_open_menu_follows_the_timer(self):
         self.hide_the_card()
         menu, _ = self.open_menu()

@@ -267,6 +267,18 @@ TEST(ClickGestureTest, AMenuWhoseClosingIsNeverToldEndsWithAPressBesideIt)
     EXPECT_FALSE(desk.isPanelVisible);
 }
 
+TEST(ClickGestureTest, AMenuWhoseClosingIsNeverToldEndsWithTheLastMenuOnTheScreen)
+{
+    Desk desk;
+    desk.pressAndRelease(rightOnBar);
+    desk.gesture.menuRequested();
+    desk.gesture.menusGone();
+
+    desk.pressAndRelease(leftElsewhere);
+
+    EXPECT_FALSE(desk.isPanelVisible);
+}
+
 TEST(ClickGestureTest, AClickOnTheItemEndsAMenuWhoseClosingIsNeverTold)
 {
     Desk desk;
