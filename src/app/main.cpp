@@ -47,11 +47,11 @@ void setWindowClass(const QString& windowClass)
 
 int run(QApplication& application)
 {
-    // Asked to show itself before there is anything to show, the program does so anyway.
-    std::function<void()> showTimer;
-    SingleInstance instance([&showTimer] {
-        if (showTimer)
-            showTimer();
+    StatusBarController* controller = nullptr;
+    SingleInstance instance([&controller] {
+        // Asked to show itself before there is anything to show, the program does so anyway.
+        if (controller)
+            controller->showTimerForKeyboard();
     });
     if (!instance.claim())
         return 0;
@@ -98,14 +98,16 @@ int run(QApplication& application)
             [&](PomodoroTimer& timer, AppSettings& settings, Size size) {
                 return std::make_unique<QtPanelWindow>(
                     std::make_unique<PanelContainerView>(timer, settings, size, runLoop, bundle, makeSettingsSheet),
-                    hidePanel, focus);
+                    QtPanelWindow::Handlers{
+                        .dismiss = hidePanel, .openMenu = [&controller] { controller->openMenu(); }},
+                    focus);
             },
         .makeHelpWindow = [&] { return makeHelpWindow(screens); },
         .makeAboutWindow = [&] { return makeAboutWindow(screens, bundle, calendar, workspace); },
     };
     VeltoApp app(platform);
     app.appDelegate().applicationDidFinishLaunching();
-    showTimer = [&app] { app.appDelegate().statusBarController->showTimer(); };
+    controller = app.appDelegate().statusBarController.get();
     return application.exec();
 }
 

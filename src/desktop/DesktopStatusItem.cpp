@@ -9,9 +9,9 @@
 #include "panel/ClickGesture.h"
 #include "style/TextStyle.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QEvent>
-#include <QGuiApplication>
 
 #include <chrono>
 #include <cmath>
@@ -28,6 +28,13 @@ constexpr auto patienceForHost = 2s;
 // Twice what bars usually give an item; they scale pictures down, never up.
 constexpr int wideHeight = 48;
 constexpr int squareSide = 48;
+
+/// The control that has the keyboard, else the pointer.
+QRect placeOfUse()
+{
+    const auto* control = QApplication::focusWidget();
+    return control ? QRect(control->mapToGlobal(QPoint()), control->size()) : QRect(QCursor::pos(), QSize(1, 1));
+}
 
 bool desktopIsDark()
 {
@@ -75,7 +82,7 @@ void DesktopStatusItem::menuDidChange()
 
 void DesktopStatusItem::popUpMenu()
 {
-    m_popUpMenu.popUp(anchor().value_or(QRect(QCursor::pos(), QSize(1, 1))));
+    m_popUpMenu.popUp(anchor().value_or(placeOfUse()));
 }
 
 bool DesktopStatusItem::eventFilter(QObject* watched, QEvent* event)

@@ -5,7 +5,9 @@
 #include "style/ContinuousRect.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -68,6 +70,26 @@ void FloatingWindow::orderFront()
         activateWindow();
 }
 
+void FloatingWindow::takeKeyboard()
+{
+    if (!isVisible())
+        return;
+    for (auto* sheet : findChildren<FloatingWindow*>(Qt::FindDirectChildrenOnly))
+        if (sheet->isVisible())
+            return sheet->takeKeyboard();
+
+    if (!focusWidget() || !(focusWidget()->focusPolicy() & Qt::TabFocus))
+        focusNextPrevChild(true);
+    if (auto* field = qobject_cast<QLineEdit*>(focusWidget()))
+        field->selectAll();
+    else
+        setAttribute(Qt::WA_KeyboardFocusChange);
+    if (m_focus == Focus::taken)
+        activateWindow();
+    else
+        setAcceptsFocus(true);
+}
+
 void FloatingWindow::setVisible(bool visible)
 {
     // A window manager forgets what a hidden window was.
@@ -101,8 +123,16 @@ void FloatingWindow::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Cancel))
         m_dismiss();
+    else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
+        emit menuRequested(); // The toolkit knows the menu key only.
     else
         QWidget::keyPressEvent(event);
+}
+
+void FloatingWindow::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        emit menuRequested();
 }
 
 bool FloatingWindow::event(QEvent* event)
@@ -130,7 +160,8 @@ void FloatingWindow::watchUse()
             setAcceptsFocus(true);
     });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) {
-        if (!isWithin(this, now))
+        // A menu has no keyboard of its own.
+        if (!isWithin(this, now) && !QApplication::activePopupWidget())
             setAcceptsFocus(false);
     });
 }
@@ -164,12 +195,30 @@ void FloatingWindow::setAcceptsFocus(bool accepts)
         names.push_back(takeFocus);
     x11::setProperty(self, protocols, XCB_ATOM_ATOM, names);
 
-    if (accepts) {
-        m_previouslyFocused = x11::focusedWindow();
-        x11::focus(self);
-    } else if (wasActive && m_previouslyFocused != XCB_WINDOW_NONE) {
+    if (accepts)
+        fetchFocus();
+    else if (wasActive)
+        returnFocus();
+}
+
+void FloatingWindow::fetchFocus()
+{
+    const auto* below = qobject_cast<FloatingWindow*>(parentWidget());
+    m_previouslyFocused = below && below->m_acceptsFocus ? below->m_previouslyFocused : x11::focusedWindow();
+    x11::focus(static_cast<xcb_window_t>(winId()));
+    // Hidden with the keyboard a moment ago, the window is still the active one for one half of the toolkit, which
+    // would not tell the other that it is so again.
+    if (QGuiApplication::focusWindow() == windowHandle())
+        QApplication::setActiveWindow(this);
+}
+
+void FloatingWindow::returnFocus()
+{
+    const auto* below = qobject_cast<FloatingWindow*>(parentWidget());
+    if (below && below->m_acceptsFocus)
+        x11::focus(static_cast<xcb_window_t>(below->winId()));
+    else if (m_previouslyFocused != XCB_WINDOW_NONE)
         x11::focus(m_previouslyFocused);
-    }
 }
 
 void FloatingWindow::announceState()

@@ -18,7 +18,7 @@ class FloatingWindow : public QWidget, public QAbstractNativeEventFilter {
     Q_OBJECT
 
 public:
-    /// When it has the keyboard. Showing it takes it from nobody, but for `taken`.
+    /// When it has the keyboard without `takeKeyboard()`. Showing it takes it from nobody, but for `taken`.
     enum class Focus {
         leftAlone, ///< While a text field of the content is being edited.
         whenUsed,  ///< From the use of a control of the content to a press beside the controls.
@@ -31,13 +31,22 @@ public:
 
     void orderFront();
 
+    /// Fetches the keyboard for the content's first control, or for the one that had it last; with another
+    /// floating window on this one, for that. It goes back as it does after use. No effect while hidden.
+    void takeKeyboard();
+
     void setVisible(bool visible) override;
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
+
+signals:
+    /// By a key, and the content had no menu to show.
+    void menuRequested();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -45,6 +54,8 @@ private:
     void watchUse();
     [[nodiscard]] bool needsKeyboard(const QWidget* widget) const;
     void setAcceptsFocus(bool accepts);
+    void fetchFocus();
+    void returnFocus();
     void announceState();
     void watchCompositing();
     void followCompositing();

@@ -7,9 +7,10 @@
 
 namespace velto {
 
-QtPanelWindow::QtPanelWindow(std::unique_ptr<QWidget> content, std::function<void()> dismiss, Focus focus) :
-    m_window(std::make_unique<FloatingWindow>(std::move(content), std::move(dismiss), focus))
+QtPanelWindow::QtPanelWindow(std::unique_ptr<QWidget> content, Handlers handlers, Focus focus) :
+    m_window(std::make_unique<FloatingWindow>(std::move(content), std::move(handlers.dismiss), focus))
 {
+    QObject::connect(m_window.get(), &FloatingWindow::menuRequested, std::move(handlers.openMenu));
 }
 
 QtPanelWindow::~QtPanelWindow() = default;
@@ -32,6 +33,11 @@ void QtPanelWindow::orderFrontRegardless()
 void QtPanelWindow::orderOut()
 {
     m_window->hide();
+}
+
+void QtPanelWindow::makeKey()
+{
+    m_window->takeKeyboard();
 }
 
 } // namespace velto

@@ -14,14 +14,20 @@ class QtPanelWindow final : public PanelWindow {
 public:
     using Focus = FloatingWindow::Focus;
 
-    /// `dismiss` runs for Escape, unless the content has used it, and for the loss of a taken focus.
-    QtPanelWindow(std::unique_ptr<QWidget> content, std::function<void()> dismiss, Focus focus = Focus::leftAlone);
+    struct Handlers {
+        std::function<void()>
+            dismiss; ///< For Escape, unless the content has used it, and for the loss of a taken focus.
+        std::function<void()> openMenu; ///< For the menu key and Shift+F10.
+    };
+
+    QtPanelWindow(std::unique_ptr<QWidget> content, Handlers handlers, Focus focus = Focus::leftAlone);
     ~QtPanelWindow() override;
 
     [[nodiscard]] bool isVisible() const override;
     void setFrame(const Rect& frame) override;
     void orderFrontRegardless() override;
     void orderOut() override;
+    void makeKey() override;
 
 private:
     std::unique_ptr<FloatingWindow> m_window;

@@ -56,12 +56,14 @@ public:
 
     void showTimer();
     void hideTimer();
+    /// Shows the timer, for somebody who wants to use it with the keyboard.
+    void showTimerForKeyboard();
+    void openMenu();
 
 private:
     void updateTitle(std::int64_t remaining, PomodoroPhase phase);
     void bind();
     void togglePanel();
-    void openMenu();
     void handleSessionCompletedNotification();
 
     [[nodiscard]] std::shared_ptr<Menu> buildMenu();

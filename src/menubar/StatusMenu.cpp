@@ -216,6 +216,8 @@ void StatusBarController::openSettings()
 {
     showTimer();
     NotificationCenter::defaultCenter().post(statusBarShowSettings);
+    // Who asks for the form wants to type into it.
+    m_panelController->panel().makeKey();
 }
 
 void StatusBarController::showHelp()
@@ -238,6 +240,12 @@ void StatusBarController::quit()
 void StatusBarController::showTimer()
 {
     m_panelController->show(m_statusItem->button());
+}
+
+void StatusBarController::showTimerForKeyboard()
+{
+    showTimer();
+    m_panelController->panel().makeKey();
 }
 
 void StatusBarController::hideTimer()

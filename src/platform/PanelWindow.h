@@ -5,7 +5,7 @@
 
 namespace velto {
 
-/// The floating card: above other windows, on every workspace, never taking the focus by being shown.
+/// The floating card: above other windows, on every workspace, never taking the keyboard by being shown.
 class PanelWindow {
 public:
     virtual ~PanelWindow() = default;
@@ -14,6 +14,9 @@ public:
     virtual void setFrame(const Rect& frame) = 0;
     virtual void orderFrontRegardless() = 0;
     virtual void orderOut() = 0;
+    /// Gives it the keyboard, or the sheet on it while there is one, until it is left or hidden. What had the
+    /// keyboard then has it again. No effect while hidden.
+    virtual void makeKey() = 0;
 };
 
 } // namespace velto

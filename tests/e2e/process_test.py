@@ -26,11 +26,19 @@ class TheProcess(unittest.TestCase):
         desktop.click_item()
         wait_for(lambda: not velto.card_is_visible)
 
+        other = desktop.open_window("other")
+
         second = desktop.start_velto(ready=False)
 
         self.assertEqual(second.wait(), 0)
         wait_for(lambda: velto.card_is_visible, what="the card of the first")
         self.assertEqual(velto.controls, ["Pause", "Reset"])
+        wait_for(lambda: velto.card.find("push button", "Pause").has_state("focused"), what="the card's keyboard")
+        desktop.key("Return")
+        wait_for(lambda: velto.controls == ["Start", "Reset"], what="the paused timer")
+        desktop.key("Escape")
+        wait_for(lambda: not velto.card_is_visible, what="the hidden card")
+        wait_for(lambda: other.has_state("focused"), what="the keyboard back in the other window")
 
     def test_a_second_launch_leaves_a_visible_card(self):
         velto = self.start({})

@@ -23,12 +23,14 @@ public:
         visible = false;
         ++outs;
     }
+    void makeKey() override { ++keys; }
 
     bool visible = false;
     Rect frame;
     int placements = 0;
     int fronts = 0;
     int outs = 0;
+    int keys = 0; ///< How often it was given the keyboard.
 };
 
 } // namespace velto

@@ -32,6 +32,18 @@ _HERE = os.path.dirname(os.path.abspath(__file__))
 _ROOT = os.path.dirname(os.path.dirname(_HERE))
 _ATSPI = ("/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher")
 
+_OPENBOX = """<?xml version="1.0" encoding="UTF-8"?>
+<openbox_config xmlns="http://openbox.org/3.4/rc">
+  <focus><focusNew>yes</focusNew></focus>
+  <keyboard><keybind key="C-A-v"><action name="Execute"><command>{program}</command></action></keybind></keyboard>
+  <mouse>
+    <context name="Client">
+      <mousebind button="Left" action="Press"><action name="Focus"/><action name="Raise"/></mousebind>
+    </context>
+  </mouse>
+</openbox_config>
+"""
+
 _TIME = re.compile(r"\d{2,}:\d\d")
 _ANNOUNCEMENT = re.compile(r'signal time=(\S+) sender=(\S+) .*member=XAyatanaNewLabel\n   string "([^"]*)"\n')
 
@@ -135,7 +147,8 @@ class Velto:
 
 
 class VirtualDesktop:
-    """See the module. `host` is the panel bar: one of hosts.HOSTS, or "none". `monitors` is a list of
+    """See the module. `host` is the panel bar: one of hosts.HOSTS, or "none". `wm` is the window manager:
+    "xfwm4", "openbox", which starts the program on Control+Alt+V, or "none". `monitors` is a list of
     (width, height, x, y) inside `size`, the first being the main one; `bar_monitor` says which has the bar
     ("press" and "release" only).
     `scale` is how many pixels a point has, `dark` the colour scheme that the desktop asks for."""
@@ -202,6 +215,11 @@ class VirtualDesktop:
         self._start_bus()
         if self._wm_kind == "xfwm4":
             self.run("xfwm4", f"--compositor={'on' if self._compositing else 'off'}", "--sm-client-disable")
+        elif self._wm_kind == "openbox":
+            with open(self.path("config/openbox.xml"), "w", encoding="utf-8") as file:
+                file.write(_OPENBOX.format(program=self.program))
+            self.run("openbox", "--config-file", file.name)
+        if self._wm_kind != "none":
             wait_for(lambda: "window id" in self.ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
                      what="a window manager")
         if self._compositing:
@@ -277,6 +295,10 @@ class VirtualDesktop:
         return os.path.join(self.folder, name)
 
     @property
+    def program(self):
+        return os.environ.get("VELTO_BIN", os.path.join(_ROOT, "build/release/bin/velto"))
+
+    @property
     def settings_file(self):
         return self.path("config/velto/defaults.plist")
 
@@ -311,9 +333,8 @@ class VirtualDesktop:
             os.makedirs(os.path.dirname(self.settings_file), 0o700, exist_ok=True)
             with open(self.settings_file, "wb") as file:
                 plistlib.dump({"hasLaunchedBefore": True} | defaults, file)
-        program = os.environ.get("VELTO_BIN", os.path.join(_ROOT, "build/release/bin/velto"))
         output = tempfile.mktemp(prefix="velto-", suffix=".out", dir=self.path("log"))
-        velto = Velto(self, self.run(program, output=output, environment=environment), output)
+        velto = Velto(self, self.run(self.program, output=output, environment=environment), output)
         if ready:
             def exported():
                 if velto.process.poll() is not None:

@@ -36,10 +36,13 @@ protected:
         layout->addWidget(field);
         surface = content.get();
         QObject::connect(button, &QPushButton::clicked, [this] { ++clicks; });
-        panel = std::make_unique<QtPanelWindow>(std::move(content), [this] {
-            ++dismissals;
-            panel->orderOut();
-        });
+        panel = std::make_unique<QtPanelWindow>(std::move(content),
+            QtPanelWindow::Handlers{.dismiss =
+                                        [this] {
+                                            ++dismissals;
+                                            panel->orderOut();
+                                        },
+                .openMenu = [this] { ++menus; }});
         panel->setFrame(rectFromQt(place));
     }
 
@@ -78,6 +81,7 @@ protected:
     std::unique_ptr<QtPanelWindow> panel;
     int clicks = 0;
     int dismissals = 0;
+    int menus = 0;
 };
 
 /// A window of another program that has the keyboard.
@@ -227,6 +231,43 @@ TEST_P(QtPanelWindowUnder, EscapeAsksForItsEndWhileTextIsEdited)
     EXPECT_TRUE(eventually([&] { return other->hasKeyboard(); }));
 }
 
+TEST_P(QtPanelWindowUnder, MadeKeyItIsUsedByKeysUntilItIsHidden)
+{
+    const auto other = focusedWindow();
+    panel->makeKey();
+    EXPECT_TRUE(stays([&] { return other->hasKeyboard(); })) << "hidden";
+
+    for (int round = 1; round <= 3; ++round) {
+        show();
+        panel->makeKey();
+        ASSERT_TRUE(eventually([&] { return button->hasFocus(); })) << round;
+        ASSERT_TRUE(Desktop::run("xdotool", {"key", "space"}));
+        EXPECT_TRUE(eventually([&] { return clicks == round; }));
+        for (const char* key : {"Menu", "shift+F10"})
+            ASSERT_TRUE(Desktop::run("xdotool", {"key", key}));
+        EXPECT_TRUE(eventually([&] { return menus == 2 * round; }));
+
+        ASSERT_TRUE(Desktop::run("xdotool", {"key", "Escape"}));
+        EXPECT_TRUE(eventually([&] { return dismissals == round; }));
+        EXPECT_TRUE(eventually([&] { return other->hasKeyboard(); }));
+    }
+    show();
+    EXPECT_TRUE(eventually([&] { return stays([&] { return other->hasKeyboard(); }); })) << "only shown";
+}
+
+TEST_P(QtPanelWindowUnder, APressOnAButtonGivesTheKeyboardBack)
+{
+    const auto other = focusedWindow();
+    show();
+    panel->makeKey();
+    ASSERT_TRUE(eventually([&] { return button->hasFocus(); }));
+
+    ASSERT_TRUE(click(button));
+
+    EXPECT_TRUE(eventually([&] { return clicks == 1; }));
+    EXPECT_TRUE(eventually([&] { return other->hasKeyboard(); }));
+}
+
 TEST_F(QtPanelWindowTest, AKeyboardTakenElsewhereMeanwhileIsNotTakenBack)
 {
     Desktop::current().startWindowManager();
@@ -249,8 +290,8 @@ TEST(TakingPanelTest, WhereItTakesTheKeyboardLosingItAsksForItsEnd)
     Desktop::current().startWindowManager();
     const auto other = focusedWindow();
     int dismissals = 0;
-    QtPanelWindow panel{
-        std::make_unique<QPushButton>(QStringLiteral("Start")), [&] { ++dismissals; }, QtPanelWindow::Focus::taken};
+    QtPanelWindow panel{std::make_unique<QPushButton>(QStringLiteral("Start")),
+        QtPanelWindow::Handlers{.dismiss = [&] { ++dismissals; }, .openMenu = [] {}}, QtPanelWindow::Focus::taken};
     panel.setFrame(rectFromQt(place));
 
     panel.orderFrontRegardless();

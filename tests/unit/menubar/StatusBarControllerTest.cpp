@@ -240,8 +240,19 @@ TEST_F(StatusBarControllerTest, AtTheEndOfAPhaseTheHiddenPanelIsShownWithoutActi
 
     EXPECT_TRUE(world.panel->isVisible());
     EXPECT_EQ(world.panel->frame, (Rect{1040, 654, 360, 420}));
+    EXPECT_EQ(world.panel->keys, 0);
     EXPECT_EQ(world.application.activations, 0);
     EXPECT_EQ(world.statusItem->popUps, 0);
+}
+
+TEST_F(StatusBarControllerTest, ThePanelHasTheKeyboardOnlyWhenThatIsAskedFor)
+{
+    controller().showTimer();
+    EXPECT_EQ(world.panel->keys, 0);
+
+    controller().showTimerForKeyboard();
+    EXPECT_EQ(world.panel->fronts, 2);
+    EXPECT_EQ(world.panel->keys, 1);
 }
 
 TEST_F(StatusBarControllerTest, AtTheEndOfAPhaseTheVisiblePanelStaysAndComesToTheFrontAgain)

@@ -434,17 +434,20 @@ TEST_F(StatusMenuTest, EveryWayToTheSettingsShowsThePanelAndThenAsksForTheForm)
              "Focus Music / Edit Custom URL\u2026", "Break Music / Edit Custom URL\u2026"}) {
         SCOPED_TRACE(path);
         controller().hideTimer();
+        const int keysBefore = world.panel->keys;
         int asked = 0;
         const auto observer = NotificationCenter::defaultCenter().addObserver(
             "StatusBarShowSettings", [&](const Notification& notification) {
                 ++asked;
                 EXPECT_TRUE(world.panel->isVisible());
+                EXPECT_EQ(world.panel->keys, keysBefore) << "The form is there first";
                 EXPECT_FALSE(notification.object.has_value());
             });
 
         choose(path);
 
         EXPECT_EQ(asked, 1);
+        EXPECT_EQ(world.panel->keys, keysBefore + 1);
         EXPECT_EQ(world.application.activations, 0);
     }
 }
