@@ -4,9 +4,9 @@
 #include "desktop/BuildBundle.h"
 #include "desktop/CanberraSoundLibrary.h"
 #include "desktop/DesktopStatusItem.h"
-#include "desktop/GstStreamPlayerFactory.h"
 #include "desktop/HelpAboutWindows.h"
 #include "desktop/PlistKeyValueStore.h"
+#include "desktop/ProcessStreamPlayerFactory.h"
 #include "desktop/QtApplication.h"
 #include "desktop/QtCalendar.h"
 #include "desktop/QtPanelWindow.h"
@@ -26,6 +26,7 @@
 #include <QWindow>
 
 #include <csignal>
+#include <filesystem>
 
 namespace velto {
 
@@ -64,8 +65,9 @@ int run(QApplication& application)
     QtCalendar calendar;
     BuildBundle bundle;
     PlistKeyValueStore defaults(PlistKeyValueStore::defaultPath());
-    CanberraSoundLibrary sounds(CanberraSoundLibrary::folderOf(QCoreApplication::applicationDirPath().toStdString()));
-    GstStreamPlayerFactory streamPlayers;
+    const std::filesystem::path folder = QCoreApplication::applicationDirPath().toStdString();
+    CanberraSoundLibrary sounds(CanberraSoundLibrary::folderOf(folder));
+    ProcessStreamPlayerFactory streamPlayers(ProcessStreamPlayerFactory::programOf(folder), runLoop);
     ClickGesture clickGesture(runLoop);
     XInputEventMonitor eventMonitor(clickGesture);
 

@@ -23,8 +23,8 @@ def setUpModule():
 
 class TheInstalledTree(unittest.TestCase):
     def test_it_holds_the_program_and_what_a_desktop_asks_for(self):
-        for name in ("bin/velto", f"share/applications/{ID}.desktop", f"share/metainfo/{ID}.metainfo.xml",
-                     f"share/icons/hicolor/scalable/apps/{ID}.svg", f"share/icons/hicolor/48x48/apps/{ID}.png",
+        for name in ("bin/velto", "libexec/velto-stream", f"share/applications/{ID}.desktop",
+                     f"share/metainfo/{ID}.metainfo.xml", f"share/icons/hicolor/scalable/apps/{ID}.svg", f"share/icons/hicolor/48x48/apps/{ID}.png",
                      f"share/icons/hicolor/symbolic/apps/{ID}-symbolic.svg"):
             with self.subTest(name):
                 self.assertTrue(os.path.isfile(os.path.join(prefix, name)), os.listdir(prefix))

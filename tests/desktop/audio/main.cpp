@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <QCoreApplication>
+#include "WatchedApplication.h"
+
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv)
@@ -8,6 +9,6 @@ int main(int argc, char** argv)
     for (const char* name : {"http_proxy", "https_proxy", "all_proxy", "HTTP_PROXY", "HTTPS_PROXY", "ALL_PROXY"})
         qunsetenv(name);
     qputenv("GST_REGISTRY", VELTO_AUDIO_MATERIAL "/gst-registry.bin");
-    const QCoreApplication application(argc, argv);
+    const velto::WatchedApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

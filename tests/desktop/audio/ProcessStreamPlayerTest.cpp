@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: MIT
+#include "StreamTest.h"
+
+#include <cmath>
+#include <csignal>
+#include <utility>
+
+namespace velto {
+namespace {
+
+using namespace std::chrono_literals;
+
+class ProcessStreamPlayerTest : public StreamTest { };
+
+TEST_F(ProcessStreamPlayerTest, TouchesNothingBeforeTheFirstStream)
+{
+    const auto before = Resources::now();
+
+    player = players.makePlayer(streams.url("tone.mp3"));
+    setVolume(0.5);
+    pause();
+
+    EXPECT_TRUE(Resources::now().areNoMoreThan(before)) << before << " became " << Resources::now();
+    EXPECT_EQ(streams.connections(), 0);
+}
+
+TEST_F(ProcessStreamPlayerTest, TakesWebAddressesOnly)
+{
+    EXPECT_TRUE(players.accepts("https://example.org/stream"));
+    EXPECT_FALSE(players.accepts("file:///etc/passwd"));
+    EXPECT_FALSE(players.accepts(""));
+}
+
+TEST_F(ProcessStreamPlayerTest, IsHeardWithinTwoSecondsOverOneConnection)
+{
+    recording = std::make_unique<Recording>();
+    const auto start = Clock::now();
+    listenTo(streams.url("tone.mp3"));
+
+    ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
+
+    EXPECT_LT(Clock::now() - start, 2s);
+    EXPECT_EQ(streams.connections(), 1);
+    EXPECT_EQ(streams.openConnections(), 1);
+}
+
+TEST_F(ProcessStreamPlayerTest, PlaysInTheRoleOfMusicUnderTheProgramsName)
+{
+    listenTo(streams.url("tone.mp3"));
+    ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
+
+    const auto inputs = sound.list("sink-inputs");
+    EXPECT_TRUE(inputs.contains("media.role = \"music\"")) << inputs.toStdString();
+    EXPECT_TRUE(inputs.contains("application.name = \"velto\"")) << inputs.toStdString();
+    EXPECT_TRUE(inputs.contains("application.id = \"org.velto.Velto\"")) << inputs.toStdString();
+}
+
+TEST_F(ProcessStreamPlayerTest, PauseSilencesAtOnceAndClosesTheConnection)
+{
+    listenTo(streams.url("tone.mp3"));
+    ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
+
+    const auto paused = Clock::now();
+    pause();
+
+    ASSERT_TRUE(eventually([&] { return streams.openConnections() == 0; }));
+    ASSERT_TRUE(eventually([&] { return Clock::now() - paused > 1s; }));
+    EXPECT_LT(recording->lastSound() - paused, 300ms);
+    EXPECT_EQ(recording->amplitude(tone), 0);
+}
+
+TEST_F(ProcessStreamPlayerTest, EveryPlayOpensTheStreamAnew)
+{
+    listenTo(streams.url("tone.mp3"));
+    ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
+
+    pause();
+    ASSERT_TRUE(eventually([&] { return streams.openConnections() == 0; }));
+    playAgain();
+    ASSERT_TRUE(eventually([&] { return streams.connections() == 2 && toneIsHeard(); }));
+    playAgain();
+    ASSERT_TRUE(eventually([&] { return streams.connections() == 3 && streams.openConnections() == 1; }));
+    ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
+}
+
+TEST_F(ProcessStreamPlayerTest, VolumeIsLinear)
+{
+    listenTo(streams.url("tone.mp3"));
+    ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
+    const std::pair<float, double> volumes[]{
+        {0.5F, 0.5}, {0.25F, 0.25}, {1.7F, 1}, {-0.2F, 0}, {0.5F, 0.5}, {std::nanf(""), 0}, {1, 1}};
+    for (const auto& [volume, amplitude] : volumes) {
+        setVolume(volume);
+        EXPECT_TRUE(eventually([&] {
+            return std::abs(recording->amplitude(tone) / toneAmplitude - amplitude) < std::max(0.05 * amplitude, 0.001);
+        })) << volume
+            << " gives " << recording->amplitude(tone) / toneAmplitude;
+    }
+}
+
+TEST_F(ProcessStreamPlayerTest, StartsAtTheVolumeSetBefore)
+{
+    recording = std::make_unique<Recording>();
+    play(streams.url("tone.mp3"), 0.25);
+
+    ASSERT_TRUE(eventually([&] { return recording->amplitude(tone) > 0.2 * toneAmplitude; }));
+    const auto& samples = recording->samples();
+    EXPECT_LT(*std::ranges::max_element(samples), 0.3 * toneAmplitude);
+}
+
+TEST_F(ProcessStreamPlayerTest, PlaysTheUsualKindsOfStream)
+{
+    for (const auto* path : {"tone.aac", "tone.ogg", "shoutcast", "titles", "relative/to", "to-secure"}) {
+        listenTo(streams.url(path));
+        EXPECT_TRUE(eventually([&] { return toneIsHeard(); }, 15s)) << path;
+        pause();
+        EXPECT_TRUE(eventually([&] { return recording->amplitude(tone) == 0; })) << path;
+    }
+}
+
+TEST_F(ProcessStreamPlayerTest, PlaysOverAConnectionThatTheSystemTrusts)
+{
+    listenTo(streams.url("tone.mp3", "good"));
+
+    EXPECT_TRUE(eventually([&] { return toneIsHeard(); }));
+}
+
+TEST_F(ProcessStreamPlayerTest, ComesBackWhenTheStreamEnds)
+{
+    listenTo(streams.url("dropping"));
+    ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
+    ASSERT_TRUE(eventually([&] { return !toneIsHeard(); }));
+
+    EXPECT_TRUE(eventually([&] { return streams.connections() == 2 && toneIsHeard(); }));
+}
+
+TEST_F(ProcessStreamPlayerTest, ComesBackWhenTheStreamStalls)
+{
+    listenTo(streams.url("stalling"));
+    ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
+    ASSERT_TRUE(eventually([&] { return !toneIsHeard(); }));
+    const auto silent = Clock::now();
+
+    EXPECT_TRUE(eventually([&] { return streams.connections() == 2; }));
+    EXPECT_LT(Clock::now() - silent, 10s);
+    EXPECT_TRUE(eventually([&] { return toneIsHeard(); }));
+}
+
+TEST_F(ProcessStreamPlayerTest, ComesBackWithTheSoundServer)
+{
+    listenTo(streams.url("tone.mp3"));
+    ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
+
+    recording.reset();
+    sound.kill();
+    ASSERT_TRUE(eventually([&] { return streams.openConnections() == 0; }));
+    sound.start();
+    recording = std::make_unique<Recording>();
+
+    EXPECT_TRUE(eventually([&] { return toneIsHeard(); }));
+}
+
+TEST_F(ProcessStreamPlayerTest, AHangingSoundServerHoldsUpNobody)
+{
+    listenTo(streams.url("tone.mp3"));
+    ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
+
+    sound.freeze();
+    setVolume(0.5);
+    pause();
+    playAgain();
+    QTest::qWait(200);
+    pause();
+
+    EXPECT_TRUE(eventually([&] { return playing().empty() && streams.openConnections() == 0; }, 1s));
+    sound.thaw();
+}
+
+TEST_F(ProcessStreamPlayerTest, ComesBackWhenTheProgramIsKilled)
+{
+    listenTo(streams.url("tone.mp3"));
+    for (const int deadly : {SIGSEGV, SIGKILL}) {
+        ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
+        const auto connections = streams.connections();
+
+        ASSERT_EQ(playing().size(), 1);
+        kill(playing().front(), deadly);
+
+        EXPECT_TRUE(eventually([&] { return streams.connections() > connections && toneIsHeard(); }));
+    }
+}
+
+TEST_F(ProcessStreamPlayerTest, AHangingProgramIsStoppedAtOnce)
+{
+    listenTo(streams.url("tone.mp3"));
+    ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
+
+    kill(playing().front(), SIGSTOP);
+    for (int i = 0; i < 10000; ++i)
+        setVolume(i % 2 ? 0.5F : 1);
+    pause();
+
+    EXPECT_TRUE(eventually([&] { return playing().empty() && streams.openConnections() == 0; }, 1s));
+    EXPECT_TRUE(eventually([&] { return recording->amplitude(tone) == 0; }));
+}
+
+TEST_F(ProcessStreamPlayerTest, AHangingProgramGoesWithItsPlayer)
+{
+    play(streams.url("tone.mp3"));
+    ASSERT_TRUE(eventually([&] { return streams.openConnections() == 1; }));
+
+    kill(playing().front(), SIGSTOP);
+    dropPlayer();
+
+    EXPECT_TRUE(eventually([&] { return playing().empty() && streams.openConnections() == 0; }, 1s));
+}
+
+TEST_F(ProcessStreamPlayerTest, IsSilentWithoutTheProgram)
+{
+    ProcessStreamPlayerFactory lost("/nowhere/velto-stream", runLoop);
+    const auto before = Resources::now();
+    testing::internal::CaptureStderr();
+
+    application.turn([&] {
+        player = lost.makePlayer(streams.url("tone.mp3"));
+        player->play();
+    });
+    QTest::qWait(1500);
+    setVolume(0.5);
+    dropPlayer();
+
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_TRUE(eventually([&] { return Resources::now().areNoMoreThan(before); }))
+        << before << " became " << Resources::now();
+}
+
+TEST_F(ProcessStreamPlayerTest, FindsTheProgramBesideTheExecutable)
+{
+    const auto program = ProcessStreamPlayerFactory::programOf(QCoreApplication::applicationDirPath().toStdString());
+
+    EXPECT_TRUE(std::filesystem::equivalent(program, VELTO_STREAM_PROGRAM));
+}
+
+} // namespace
+} // namespace velto
