@@ -110,7 +110,7 @@ TEST_F(ProcessStreamPlayerTest, StartsAtTheVolumeSetBefore)
 
 TEST_F(ProcessStreamPlayerTest, PlaysTheUsualKindsOfStream)
 {
-    for (const auto* path : {"tone.aac", "tone.ogg", "shoutcast", "titles", "relative/to", "to-secure"}) {
+    for (const auto* path : {"tone.aac", "tone.ogg", "shoutcast", "titles", "relative/to", "to-secure", "live.m3u8"}) {
         listenTo(streams.url(path));
         EXPECT_TRUE(eventually([&] { return toneIsHeard(); }, 15s)) << path;
         pause();

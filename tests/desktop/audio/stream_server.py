@@ -18,6 +18,8 @@ import time
 MATERIAL = sys.argv[1]
 BYTES_A_SECOND = 16000
 BURST = 2 * BYTES_A_SECOND
+SEGMENT = 2  # seconds
+START = time.monotonic()
 CERTIFICATES = ("good", "wrong-host", "expired", "unknown-authority")
 
 output = threading.Lock()
@@ -94,6 +96,17 @@ class Connection:
                 self.redirect("../tone.mp3")
             case "to-secure":
                 self.redirect(f"https://127.0.0.1:{self.ports['good']}/tone.mp3")
+            case "live.m3u8":
+                first = int((time.monotonic() - START) / SEGMENT)
+                self.body("200 OK", "application/vnd.apple.mpegurl",
+                          f"#EXTM3U\n#EXT-X-VERSION:3\n#EXT-X-TARGETDURATION:{SEGMENT}\n"
+                          f"#EXT-X-MEDIA-SEQUENCE:{first}\n"
+                          + "".join(f"#EXTINF:{SEGMENT},\nsegment/{number}\n" for number in range(first, first + 4)))
+            case "segment":
+                size = SEGMENT * BYTES_A_SECOND
+                start = int(rest) * size % (len(TONE) - size)
+                self.head(Content_Length=size)
+                self.stream.sendall(TONE[start:start + size])
             case "silent":
                 self.wait()
             case "missing":
