@@ -3,11 +3,14 @@
 
 #include "style/Colors.h"
 #include "style/Drawing.h"
+#include "style/PickerList.h"
 #include "style/TextStyle.h"
 
 #include <QEvent>
 #include <QPainter>
 #include <QWheelEvent>
+
+#include <limits>
 
 namespace velto {
 
@@ -34,6 +37,9 @@ PopUpPicker::PopUpPicker(const QString& title)
     setAccessibleDescription(title);
     setFont(textFont(TextStyle::body));
     setAttribute(Qt::WA_Hover);
+    // As long as the screen allows, which the toolkit sees to.
+    setMaxVisibleItems(std::numeric_limits<int>::max());
+    new PickerList(*this);
 }
 
 QSize PopUpPicker::sizeHint() const

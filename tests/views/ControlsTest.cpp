@@ -10,8 +10,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
@@ -125,6 +127,115 @@ TEST_F(ControlsTest, TheWheelIsLeftToWhatScrolls)
 
     EXPECT_EQ(slider->value(), 50);
     EXPECT_EQ(picker->currentIndex(), 1);
+}
+
+/// The open list of `picker` as it is drawn.
+QImage listOf(PopUpPicker& picker)
+{
+    return picker.view()->window()->grab().toImage();
+}
+
+TEST_F(ControlsTest, TheListOfAPickerLiesOverItWithWhatIsChosen)
+{
+    for (int chosen = 0; chosen < picker->count(); ++chosen) {
+        picker->setCurrentIndex(chosen);
+        picker->showPopup();
+        const auto* list = picker->view();
+        const auto row = list->visualRect(list->model()->index(chosen, 0));
+
+        EXPECT_EQ(list->viewport()->mapToGlobal(row.center()).y(), picker->mapToGlobal(picker->rect().center()).y());
+        EXPECT_EQ(list->window()->width(), picker->width());
+        picker->hidePopup();
+    }
+}
+
+TEST_F(ControlsTest, TheListOfAPickerStaysOnTheScreenAndShowsAllThatFits)
+{
+    const auto screen = window.screen()->availableGeometry();
+    for (int i = 0; i < 12; ++i)
+        picker->addItem(QString::number(i));
+    for (const auto& [y, chosen] : {std::pair{screen.top(), 14}, {screen.bottom() - window.height(), 0}}) {
+        window.move(screen.left(), y);
+        picker->setCurrentIndex(chosen);
+        picker->showPopup();
+
+        const auto* list = picker->view();
+        EXPECT_TRUE(screen.contains(list->window()->geometry())) << chosen;
+        for (int i = 0; i < picker->count(); ++i)
+            EXPECT_TRUE(list->viewport()->rect().contains(list->visualRect(list->model()->index(i, 0)))) << i;
+        picker->hidePopup();
+    }
+}
+
+TEST_F(ControlsTest, AListThatIsTooLongIsAsHighAsTheScreenAndScrolls)
+{
+    for (int i = 0; i < 60; ++i)
+        picker->addItem(QString::number(i));
+    picker->setCurrentIndex(picker->count() - 1);
+    picker->showPopup();
+
+    const auto* list = picker->view();
+    EXPECT_TRUE(window.screen()->availableGeometry().contains(list->window()->geometry()));
+    EXPECT_TRUE(list->viewport()->rect().contains(list->visualRect(list->currentIndex())));
+}
+
+TEST_F(ControlsTest, TheListOfAPickerIsARoundCardInBothSchemes)
+{
+    const auto before = QApplication::palette();
+    for (const auto theme : {Theme::light, Theme::dark}) {
+        QApplication::setPalette(paletteFor(theme));
+        picker->showPopup();
+        const auto image = listOf(*picker);
+
+        for (const QPoint corner : {QPoint(0, 0), QPoint(image.width() - 1, image.height() - 1)})
+            EXPECT_EQ(image.pixelColor(corner).alpha(), 0);
+        EXPECT_EQ(image.pixelColor(image.width() / 2, 2).alpha(), 255);
+        picker->hidePopup();
+    }
+    QApplication::setPalette(before);
+}
+
+TEST_F(ControlsTest, TheListOfAPickerIsCutToItsShapeWhereItsWindowIs)
+{
+    picker->showPopup();
+    EXPECT_TRUE(picker->view()->window()->mask().isEmpty());
+    picker->hidePopup();
+
+    window.setMask(QRegion(window.rect()));
+    picker->hide();
+    picker->show();
+    picker->showPopup();
+    const auto mask = picker->view()->window()->mask();
+    EXPECT_FALSE(mask.isEmpty());
+    EXPECT_FALSE(mask.contains(QPoint(0, 0)));
+    EXPECT_EQ(listOf(*picker).pixelColor(0, 0).alpha(), 255);
+}
+
+TEST_F(ControlsTest, TheListOfAPickerMarksTheChoiceAndHighlightsWhatTheKeysReach)
+{
+    const auto accent = color(ColorName::accent, window);
+    const auto rowHas = [this](int row, const QColor& wanted) {
+        const auto* list = picker->view();
+        const auto image = list->viewport()->grab(list->visualRect(list->model()->index(row, 0))).toImage();
+        return image.pixelColor(image.width() - 6, image.height() / 2) == wanted;
+    };
+    picker->setCurrentIndex(0);
+    picker->showPopup();
+    EXPECT_TRUE(rowHas(0, accent));
+
+    QTest::keyClick(picker->view(), Qt::Key_Down);
+    EXPECT_FALSE(rowHas(0, accent));
+    EXPECT_TRUE(rowHas(1, accent));
+    EXPECT_EQ(picker->currentIndex(), 0);
+
+    QTest::keyClick(picker->view(), Qt::Key_Escape);
+    EXPECT_FALSE(picker->view()->isVisible());
+    EXPECT_EQ(picker->currentIndex(), 0);
+
+    picker->showPopup();
+    QTest::keyClick(picker->view(), 'b');
+    QTest::keyClick(picker->view(), Qt::Key_Return);
+    EXPECT_EQ(picker->currentText(), "Basso");
 }
 
 TEST_F(ControlsTest, EachSaysItsNameRoleAndState)

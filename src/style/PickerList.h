@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QListView>
+
+class QComboBox;
+
+namespace velto {
+
+/// The choices of a pop-up picker on a card of their own: a check mark stands at what is chosen, what Return or a
+/// click would choose is highlighted. What is chosen lies over the picker, as far as the screen allows.
+///
+/// The card does without translucent pixels where the picker's window is cut to a shape, too.
+class PickerList final : public QListView {
+    Q_OBJECT
+
+public:
+    /// Becomes the list of `picker`, which owns it.
+    explicit PickerList(QComboBox& picker);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void placeCard();
+    void drawCard();
+    void cutCard();
+
+    QComboBox& m_picker;
+    QWidget* m_card = nullptr; ///< The window that the picker shows the list in.
+};
+
+} // namespace velto
