@@ -20,6 +20,11 @@ bool QtPanelWindow::isVisible() const
     return m_window->isVisible();
 }
 
+Rect QtPanelWindow::currentFrame() const
+{
+    return rectFromQt(m_window->geometry());
+}
+
 void QtPanelWindow::setFrame(const Rect& frame)
 {
     m_window->setGeometry(rectToQt(frame).toRect());

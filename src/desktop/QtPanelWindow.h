@@ -24,6 +24,7 @@ public:
     ~QtPanelWindow() override;
 
     [[nodiscard]] bool isVisible() const override;
+    [[nodiscard]] Rect currentFrame() const override;
     void setFrame(const Rect& frame) override;
     void orderFrontRegardless() override;
     void orderOut() override;

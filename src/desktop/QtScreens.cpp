@@ -9,6 +9,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace velto {
@@ -98,6 +99,33 @@ Screen describe(const QScreen& screen)
 }
 
 } // namespace
+
+QtScreens::QtScreens()
+{
+    m_changed.setSingleShot(true);
+    QObject::connect(&m_changed, &QTimer::timeout, &m_changed, [this] { m_changes.send(); });
+    m_changed.setInterval(0);
+    for (QScreen* screen : QGuiApplication::screens())
+        watch(screen);
+    const auto start = qOverload<>(&QTimer::start);
+    QObject::connect(qGuiApp, &QGuiApplication::screenAdded, &m_changed, [this](QScreen* screen) {
+        watch(screen);
+        m_changed.start();
+    });
+    QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, &m_changed, start);
+    QObject::connect(qGuiApp, &QGuiApplication::primaryScreenChanged, &m_changed, start);
+}
+
+void QtScreens::watch(QScreen* screen)
+{
+    QObject::connect(screen, &QScreen::geometryChanged, &m_changed, qOverload<>(&QTimer::start));
+    QObject::connect(screen, &QScreen::availableGeometryChanged, &m_changed, qOverload<>(&QTimer::start));
+}
+
+Subscription QtScreens::changes(std::function<void()> changed)
+{
+    return m_changes.subscribe(std::move(changed));
+}
 
 std::optional<Screen> QtScreens::mainScreen() const
 {

@@ -12,7 +12,7 @@
 
 namespace velto {
 
-SheetWindow::SheetWindow(std::unique_ptr<QWidget> content, QWidget& presenter, const Screens& screens,
+SheetWindow::SheetWindow(std::unique_ptr<QWidget> content, QWidget& presenter, Screens& screens,
     std::function<void()> dismiss, Focus focus) :
     FloatingWindow(std::move(content), std::move(dismiss), focus, presenter.window()),
     m_panel(*presenter.window()),
@@ -23,6 +23,10 @@ SheetWindow::SheetWindow(std::unique_ptr<QWidget> content, QWidget& presenter, c
     m_panel.installEventFilter(this);
     // Not by window modality: window managers give a modal window the keyboard.
     m_panel.windowHandle()->installEventFilter(this);
+    m_screenChanges = screens.changes([this] {
+        if (isVisible())
+            place();
+    });
 }
 
 void SheetWindow::setVisible(bool visible)

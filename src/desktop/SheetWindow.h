@@ -2,21 +2,23 @@
 #pragma once
 
 #include "desktop/FloatingWindow.h"
+#include "observation/Subscription.h"
 
 namespace velto {
 
 class Screens;
 
 /// A sheet on the panel: a card of its own that hangs from the panel's top edge and goes where the panel
-/// goes. While it is shown the panel takes no clicks and no keys; other windows do.
+/// goes, within the usable area of its screen. While it is shown the panel takes no clicks and no keys; other windows
+/// do.
 class SheetWindow final : public FloatingWindow {
     Q_OBJECT
 
 public:
     /// `presenter` is any widget in the panel; this belongs to the panel's window too. The size wanted is the
     /// content's size hint. `screens` must outlive this.
-    SheetWindow(std::unique_ptr<QWidget> content, QWidget& presenter, const Screens& screens,
-        std::function<void()> dismiss, Focus focus);
+    SheetWindow(std::unique_ptr<QWidget> content, QWidget& presenter, Screens& screens, std::function<void()> dismiss,
+        Focus focus);
 
     void setVisible(bool visible) override;
 
@@ -29,6 +31,7 @@ private:
     QWidget& m_panel;
     const Screens& m_screens;
     QSize m_wantedSize;
+    Subscription m_screenChanges;
 };
 
 } // namespace velto

@@ -32,6 +32,13 @@ Rect placePanel(std::optional<Rect> button, const Rect& visibleFrame, Size panel
     return {x, y, panelSize.width, panelSize.height};
 }
 
+Rect pulledInside(const Rect& frame, const Rect& visibleFrame)
+{
+    const double x = std::max(visibleFrame.minX(), std::min(frame.x, visibleFrame.maxX() - frame.width));
+    const double y = std::min(visibleFrame.maxY() - frame.height, std::max(frame.y, visibleFrame.minY()));
+    return {x, y, frame.width, frame.height};
+}
+
 TimerPanelController::TimerPanelController(
     PomodoroTimer& timer, AppSettings& settings, Screens& screens, EventMonitor& eventMonitor, PanelFactory makePanel) :
     m_timer(timer),
@@ -40,6 +47,7 @@ TimerPanelController::TimerPanelController(
     m_eventMonitor(eventMonitor),
     m_makePanel(std::move(makePanel))
 {
+    m_screenChanges = screens.changes([this] { keepOnScreen(); });
 }
 
 PanelWindow& TimerPanelController::panel()
@@ -72,6 +80,20 @@ void TimerPanelController::positionPanel(const StatusItemButton* button)
 
     panel().setFrame(placePanel(buttonFrame, screen->visibleFrame, panelSize));
     installOutsideMonitor();
+}
+
+void TimerPanelController::keepOnScreen()
+{
+    if (!m_panel || !m_panel->isVisible())
+        return;
+    const auto frame = m_panel->currentFrame();
+    auto screen = m_screens.screenOf(frame);
+    if (!screen)
+        screen = m_screens.mainScreen();
+    if (!screen)
+        return;
+    if (const auto inside = pulledInside(frame, screen->visibleFrame); inside != frame)
+        m_panel->setFrame(inside);
 }
 
 void TimerPanelController::installOutsideMonitor()

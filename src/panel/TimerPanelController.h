@@ -23,8 +23,11 @@ class StatusItemButton;
 /// centre. The result may overflow a screen narrower than `panelSize`: the left edge wins.
 [[nodiscard]] Rect placePanel(std::optional<Rect> button, const Rect& visibleFrame, Size panelSize);
 
-/// Owns the floating panel: places it under the status item, shows it without taking the focus, and
-/// hides it when the user presses the mouse elsewhere.
+/// `frame`, moved as little as it takes to lie in `visibleFrame`; where that is too small, its top left corner does.
+[[nodiscard]] Rect pulledInside(const Rect& frame, const Rect& visibleFrame);
+
+/// Owns the floating panel: places it under the status item, shows it without taking the focus, keeps it
+/// on the screen when screens change, and hides it when the user presses the mouse elsewhere.
 ///
 /// Main thread only.
 class TimerPanelController {
@@ -50,6 +53,7 @@ public:
 private:
     void positionPanel(const StatusItemButton* button);
     void installOutsideMonitor();
+    void keepOnScreen();
 
     PomodoroTimer& m_timer;
     AppSettings& m_settings;
@@ -57,6 +61,7 @@ private:
     EventMonitor& m_eventMonitor;
     PanelFactory m_makePanel;
     std::unique_ptr<PanelWindow> m_panel;
+    Subscription m_screenChanges;
     std::optional<Subscription> m_outsideMonitor;
 };
 

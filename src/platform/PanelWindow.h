@@ -11,6 +11,8 @@ public:
     virtual ~PanelWindow() = default;
 
     [[nodiscard]] virtual bool isVisible() const = 0;
+    /// Where it stands, however the screens have changed since it was put there.
+    [[nodiscard]] virtual Rect currentFrame() const = 0;
     virtual void setFrame(const Rect& frame) = 0;
     virtual void orderFrontRegardless() = 0;
     virtual void orderOut() = 0;

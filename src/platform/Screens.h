@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "observation/Subscription.h"
 #include "platform/Geometry.h"
 
+#include <functional>
 #include <optional>
 
 namespace velto {
@@ -22,6 +24,8 @@ public:
     [[nodiscard]] virtual std::optional<Screen> mainScreen() const = 0;
     /// The screen that holds the middle of `rect`, else absent.
     [[nodiscard]] virtual std::optional<Screen> screenOf(const Rect& rect) const = 0;
+    /// Runs `changed` after screens have come or gone, or have other rectangles.
+    virtual Subscription changes(std::function<void()> changed) = 0;
 };
 
 } // namespace velto

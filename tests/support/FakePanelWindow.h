@@ -8,6 +8,7 @@ namespace velto {
 class FakePanelWindow final : public PanelWindow {
 public:
     bool isVisible() const override { return visible; }
+    Rect currentFrame() const override { return frame; }
     void setFrame(const Rect& newFrame) override
     {
         frame = newFrame;

@@ -110,6 +110,31 @@ TEST(QtScreensTest, ScreensComeAndGo)
     EXPECT_EQ(QtScreens{}.mainScreen()->frame, mainFrame);
 }
 
+TEST(QtScreensTest, ChangesAreTold)
+{
+    Desktop::current().startWindowManager();
+    QtScreens screens;
+    int changes = 0;
+    const auto subscription = screens.changes([&] { ++changes; });
+    const auto isTold = [&](const std::function<void()>& change) {
+        // What is still under way is no answer.
+        if (!stays([&] {
+                changes = 0;
+                return true;
+            }))
+            return false;
+        change();
+        return eventually([&] { return changes > 0; });
+    };
+
+    OtherWindow bar{{0, 0, 2400, 30}, OtherWindow::Kind::dock};
+    bar.setStrut(0, 0, 30, 0);
+
+    EXPECT_TRUE(isTold([&] { bar.show(); }));
+    EXPECT_TRUE(isTold([] { makeTwoScreens(); }));
+    EXPECT_TRUE(isTold([] { Desktop::run("xrandr", {"--delmonitor", "side"}); }));
+}
+
 TEST(FlippedGeometryTest, BothWaysMeetAgain)
 {
     makeTwoScreens();

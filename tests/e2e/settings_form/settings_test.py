@@ -212,6 +212,27 @@ class SettingsForm(unittest.TestCase):
         del expected["musicVolume"]
         self.assertEqual(stored, expected)
 
+    def test_card_and_form_stay_on_a_screen_that_gets_smaller(self):
+        with VirtualDesktop(monitors=[(1280, 800, 0, 0)]) as shrinking:
+            velto = shrinking.start_velto({})
+            wait_for(lambda: velto.card_is_visible)
+            shrinking.click_item()
+            wait_for(lambda: not velto.card_is_visible)
+            shrinking.click_item()
+            wait_for(lambda: velto.card_is_visible)
+            velto.item.choose("Settings…")
+            sheet = Sheet(velto)
+
+            shrinking.ask("xrandr", "--setmonitor", "*smaller", "800/200x600/150+0+0", "screen")
+
+            def are_on_the_screen():
+                return all(x >= 0 and y >= 0 and x + width <= 800 and y + height <= 600
+                           for x, y, width, height in (sheet.window.rectangle, velto.card.rectangle))
+
+            wait_for(are_on_the_screen, what="card and form on the smaller screen")
+            shrinking.click(*sheet.button("Cancel").middle)
+            wait_for(lambda: not Sheet.is_open(velto), what="the form's end")
+
     def test_it_is_lower_on_a_lower_screen_and_still_whole(self):
         with VirtualDesktop(size=(1024, 600)) as low:
             velto = low.start_velto({})

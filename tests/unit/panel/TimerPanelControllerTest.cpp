@@ -64,6 +64,33 @@ TEST(PlacePanelTest, HangsUnderTheButtonWithinTheUsableArea)
     }
 }
 
+TEST(PulledInsideTest, MovesAsLittleAsItTakes)
+{
+    struct Case {
+        const char* name;
+        Rect frame;
+        Rect usable;
+        double x;
+        double y;
+    };
+    const Rect screen{0, 0, 1440, 877};
+    const std::vector<Case> cases{
+        {"inside", Rect{540, 451, 360, 420}, screen, 540, 451},
+        {"in the corner", Rect{1080, 457, 360, 420}, screen, 1080, 457},
+        {"beyond the right and the top", Rect{1500, 800, 360, 420}, screen, 1080, 457},
+        {"beyond the left and the bottom", Rect{-200, -50, 360, 420}, screen, 0, 0},
+        {"a negative origin", Rect{0, 0, 360, 420}, Rect{-1920, -200, 1920, 1055}, -360, 0},
+        {"too small: the top left corner is seen", Rect{100, 100, 360, 420}, Rect{10, 20, 300, 300}, 10, -100},
+    };
+    for (const auto& [name, frame, usable, x, y] : cases) {
+        SCOPED_TRACE(name);
+
+        const auto placed = pulledInside(frame, usable);
+
+        EXPECT_EQ(placed, (Rect{x, y, 360, 420}));
+    }
+}
+
 // The controller
 
 class TimerPanelControllerTest : public testing::Test {
@@ -116,6 +143,34 @@ TEST_F(TimerPanelControllerTest, ItIsPlacedAnewOnEveryShow)
 
     EXPECT_EQ(world.panel->frame, (Rect{0, 654, 360, 420}));
     EXPECT_EQ(world.panel->fronts, 2);
+}
+
+TEST_F(TimerPanelControllerTest, WhenScreensChangeAVisiblePanelStaysWithinReach)
+{
+    const Screen smaller{.frame = {0, 0, 1024, 600}, .visibleFrame = {0, 0, 1024, 572}};
+    controller.show(&button);
+    world.screens.change({smaller});
+    EXPECT_EQ(world.panel->frame, (Rect{664, 152, 360, 420}));
+    EXPECT_EQ(world.panel->fronts, 1);
+
+    const int placements = world.panel->placements;
+    world.screens.change({smaller, {.frame = {1024, 0, 800, 600}, .visibleFrame = {1024, 0, 800, 600}}});
+    world.screens.change({});
+    controller.hide();
+    world.screens.change({Screen{.frame = {0, 0, 640, 480}, .visibleFrame = {0, 0, 640, 480}}});
+    EXPECT_EQ(world.panel->placements, placements);
+}
+
+TEST_F(TimerPanelControllerTest, APanelOnAScreenThatIsGoneComesToTheMainOne)
+{
+    const auto mainScreen = world.screens.screens.front();
+    world.screens.screens.push_back({.frame = {-1920, 0, 1920, 1080}, .visibleFrame = {-1920, 0, 1920, 1055}});
+    button.rect = Rect{-500, 1058, 40, 22};
+    controller.show(&button);
+
+    world.screens.change({mainScreen});
+
+    EXPECT_EQ(world.panel->frame, (Rect{0, 457, 360, 420}));
 }
 
 TEST_F(TimerPanelControllerTest, TheScreenOfTheButtonCounts)
