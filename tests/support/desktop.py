@@ -44,6 +44,15 @@ _OPENBOX = """<?xml version="1.0" encoding="UTF-8"?>
 </openbox_config>
 """
 
+# A face made for screens, as desktops have one for their own texts.
+_FONTS = """<?xml version="1.0"?>
+<!DOCTYPE fontconfig SYSTEM "fonts.dtd">
+<fontconfig>
+  <alias binding="strong"><family>sans-serif</family><prefer><family>Inter</family></prefer></alias>
+  <alias binding="strong"><family>Sans</family><prefer><family>Inter</family></prefer></alias>
+</fontconfig>
+"""
+
 _TIME = re.compile(r"\d{2,}:\d\d")
 _ANNOUNCEMENT = re.compile(r'signal time=(\S+) sender=(\S+) .*member=XAyatanaNewLabel\n   string "([^"]*)"\n')
 
@@ -210,6 +219,9 @@ class VirtualDesktop:
         os.mkdir(self.path("config/pulse"))
         with open(self.path("config/pulse/client.conf"), "w", encoding="utf-8") as file:
             file.write("autospawn = no\n")
+        os.mkdir(self.path("config/fontconfig"))
+        with open(self.path("config/fontconfig/fonts.conf"), "w", encoding="utf-8") as file:
+            file.write(_FONTS)
 
         self._start_x_server()
         self._start_bus()
