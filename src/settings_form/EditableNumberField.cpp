@@ -7,11 +7,19 @@
 
 namespace velto {
 
+namespace {
+
+constexpr int narrowMargin = 1;
+
+} // namespace
+
 EditableNumberField::EditableNumberField(const QString& name, Published<std::int64_t>& value) :
     m_number(value, &QChar::isNumber)
 {
     setAccessibleName(name);
     setAlignment(Qt::AlignHCenter);
+    // Four digits are whole in the largest text, too.
+    setTextMargins(narrowMargin, 0, narrowMargin, 0);
 
     connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
         m_number.setText(text.toStdU32String());

@@ -178,6 +178,23 @@ TEST_P(EditableNumberFieldCursorTest, StaysWhereItWasWhenACharacterIsDropped)
     EXPECT_EQ(field.cursorPosition(), 2);
 }
 
+TEST(EditableNumberFieldWidthTest, FourDigitsAreWholeInTheLargestText)
+{
+    Owner owner;
+    owner.value.set(9999);
+    EditableNumberField field("Focus", owner.value);
+    auto font = field.font();
+    font.setPixelSize(16);
+    field.setFont(font);
+    field.setFixedWidth(50);
+
+    // What is too long follows the cursor.
+    field.setCursorPosition(0);
+    const auto beginning = field.grab().toImage();
+    field.setCursorPosition(4);
+    EXPECT_EQ(field.grab().toImage(), beginning);
+}
+
 TEST_P(EditableNumberFieldCursorTest, ItsOwnMenuDoesNotEndEditing)
 {
     type("12");
