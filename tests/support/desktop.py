@@ -60,8 +60,8 @@ _ANNOUNCEMENT = re.compile(r'signal time=(\S+) sender=(\S+) .*member=XAyatanaNew
 class Velto:
     """One run of the program."""
 
-    def __init__(self, desktop, process, output):
-        self.desktop, self.process, self._output = desktop, process, output
+    def __init__(self, desktop, process):
+        self.desktop, self.process, self._printed = desktop, process, b""
         self._app = self._item = self._time_label = None
 
     @property
@@ -69,10 +69,17 @@ class Velto:
         return self.process.pid
 
     @property
+    def printed(self):
+        """What a reader has got of its standard output so far, in bytes."""
+        pipe = self.process.stdout
+        while select.select([pipe], [], [], 0)[0] and (piece := os.read(pipe.fileno(), 65536)):
+            self._printed += piece
+        return self._printed
+
+    @property
     def output(self):
         """The lines on standard output so far."""
-        with open(self._output, encoding="utf-8") as file:
-            return file.read().splitlines()
+        return self.printed.decode().splitlines()
 
     @property
     def app(self):
@@ -190,6 +197,8 @@ class VirtualDesktop:
         self._guard.stdout.close()
         for process in [self._guard, *self._processes]:
             process.wait()
+            if process.stdout:
+                process.stdout.close()
 
     # Building it up
 
@@ -321,14 +330,15 @@ class VirtualDesktop:
             None, None)
 
     def run(self, *command, output=None, environment=None, pass_fds=()):
-        """Starts a program on the desktop, in a process group of its own; it ends with the desktop."""
+        """Starts a program on the desktop, in a process group of its own; it ends with the desktop. `output` is a
+        path or subprocess.PIPE."""
         log = None if self._verbose else open(self.path(f"log/{os.path.basename(command[0])}.log"), "ab")
-        out = open(output, "wb") if output else log
+        out = open(output, "wb") if isinstance(output, str) else output or log
         process = subprocess.Popen(command, env=self.environment | (environment or {}), cwd=self.path("home"),
                                    stdin=subprocess.DEVNULL, stdout=out, stderr=log, start_new_session=True,
                                    pass_fds=pass_fds)
         self._processes.append(process)
-        for file in {log, out} - {None}:
+        for file in {log, out} - {None, subprocess.PIPE}:
             file.close()
         return process
 
@@ -345,8 +355,7 @@ class VirtualDesktop:
             os.makedirs(os.path.dirname(self.settings_file), 0o700, exist_ok=True)
             with open(self.settings_file, "wb") as file:
                 plistlib.dump({"hasLaunchedBefore": True} | defaults, file)
-        output = tempfile.mktemp(prefix="velto-", suffix=".out", dir=self.path("log"))
-        velto = Velto(self, self.run(self.program, output=output, environment=environment), output)
+        velto = Velto(self, self.run(self.program, output=subprocess.PIPE, environment=environment))
         if ready:
             def exported():
                 if velto.process.poll() is not None:

@@ -7,7 +7,7 @@ import unittest
 
 from desktop import VirtualDesktop, holds, wait_for
 
-from sound import ENVIRONMENT, Recording, SoundServer, StreamServer, alert_sound, find_all, settings_for
+from sound import ENVIRONMENT, RATE, Recording, SoundServer, StreamServer, alert_sound, find_all, settings_for
 
 
 def handles(pid):
@@ -18,7 +18,7 @@ def handles(pid):
 
 class Music(unittest.TestCase):
     def setUp(self):
-        self.desktop = self.enterContext(VirtualDesktop())
+        self.desktop = self.enterContext(VirtualDesktop(host="press"))
         self.sound = SoundServer(self.desktop)
         self.streams = StreamServer()
         self.addCleanup(self.streams.close)
@@ -35,6 +35,14 @@ class Music(unittest.TestCase):
     def wait_for_silence(self):
         wait_for(lambda: self.streams.open_connections == 0, what="the connection's end")
         wait_for(lambda: self.recording.has_nothing, what="silence")
+
+    def sound_after(self, button, heard):
+        """When the first and the last sound came after a press on `button`, as soon as it was `heard`."""
+        button = self.velto.card.find("push button", button)
+        start = len(self.recording.samples())
+        button.press()
+        heard()
+        return self.recording.sound_since(start)
 
     def clients(self):
         return self.sound.list("clients").count('application.name = "velto"')
@@ -58,21 +66,16 @@ class Music(unittest.TestCase):
     def test_it_follows_the_timer(self):
         self.start_velto("tone.mp3")
 
-        before = time.monotonic()
-        self.velto.press("Start")
-        self.wait_for_tone()
-        self.assertLess(time.monotonic() - before, 3)
-        self.assertEqual(self.streams.connections, 1)
-        started = f"Started playing music from: {self.url}"
-        self.assertEqual(self.velto.output, [started])
+        first, _ = self.sound_after("Start", self.wait_for_tone)
+        self.assertLess(first, 2)
+        self.assertEqual((self.streams.connections, self.streams.open_connections), (1, 1))
 
-        self.velto.press("Pause")
-        self.wait_for_silence()
+        _, last = self.sound_after("Pause", self.wait_for_silence)
+        self.assertLess(last, 0.3)
 
         self.velto.press("Start")
         self.wait_for_tone()
-        self.assertEqual(self.streams.connections, 2)
-        self.assertEqual(self.velto.output, [started, started])
+        self.assertEqual((self.streams.connections, self.streams.open_connections), (2, 1))
 
         self.velto.press("Reset")
         self.wait_for_silence()
@@ -83,6 +86,47 @@ class Music(unittest.TestCase):
         self.wait_for_silence()
         self.assertEqual(self.streams.connections, 3)
         holds(lambda: self.streams.connections == 3, 2, "no connection without a phase that runs")
+
+    def test_every_start_is_told_at_once_and_in_one_line(self):
+        self.start_velto("tone.mp3")
+        line = f"Started playing music from: {self.url}\n".encode()
+
+        for lines in (line, line + line):
+            self.velto.press("Start")
+            wait_for(lambda: self.velto.printed == lines, timeout=2, what="the line")
+            self.velto.press("Pause")
+        self.assertEqual(self.velto.printed, line + line)
+
+    def test_it_starts_at_the_volume_of_the_settings(self):
+        for volume in (0.25, 0.5, 1.0):
+            with self.subTest(volume):
+                self.start_velto("tone.mp3", musicVolume=volume)
+                self.velto.press("Start")
+                wait_for(lambda: self.recording.has_tone_at(volume), what=f"the tone at {volume}")
+                holds(lambda: self.recording.has_tone_at(volume), 1, f"the tone at {volume}")
+                self.velto.kill()
+                wait_for(lambda: self.recording.has_nothing, what="silence")
+
+    def test_the_end_of_a_phase_closes_the_stream(self):
+        self.start_velto("tone.mp3", focusMinutes=0, focusEndSound=b'"None"')
+
+        self.velto.press("Start")
+        wait_for(lambda: self.velto.phase == "Break", what="the end of the phase, which comes after a second")
+
+        self.wait_for_silence()
+        self.assertEqual(self.velto.controls, ["Start"])
+        self.assertEqual(self.streams.connections, 1)
+        holds(lambda: self.streams.open_connections == 0 and self.recording.has_nothing, 2, "silence")
+
+    def test_a_focus_after_a_break_without_music_is_heard(self):
+        self.start_velto("tone.mp3", breakMinutes=0, autoTransition=True, breakEndSound=b'"None"')
+        self.velto.item.choose("Current Phase", "Break")
+
+        self.velto.press("Start")
+        wait_for(lambda: self.velto.phase == "Focus", what="the end of the phase, which comes after a second")
+
+        self.wait_for_tone()
+        self.assertEqual(self.streams.connections, 1)
 
     def test_a_break_without_music_is_silent(self):
         self.start_velto("tone.mp3", focusMinutes=1, autoTransition=True, countdownSound=b'"None"',
@@ -96,20 +140,43 @@ class Music(unittest.TestCase):
         wait_for(lambda: self.velto.time == "04:57", what="a break that runs")
         self.assertEqual((self.streams.connections, self.recording.has_nothing), (1, True))
 
-    def test_it_comes_back_with_the_sound_server_and_so_do_the_ticks(self):
-        self.start_velto("tone.mp3", focusMinutes=1, countdownSound=b'"Submarine"')
+    def test_it_comes_back_with_the_sound_server_and_the_countdown_does_not_wait(self):
+        self.start_velto("tone.mp3", focusMinutes=1)
         self.velto.press("Start")
         self.wait_for_tone()
 
+        self.restart_sound_server()
+
+        self.wait_for_tone()
+        self.assertEqual(len(self.velto.output), 1)
+        wait_for(lambda: self.velto.time == "00:50", what="ten seconds")
+        self.assert_counts_every_second(10)
+
+    def test_the_next_tick_is_heard_when_the_sound_server_comes_back(self):
+        self.start_velto("tone.mp3", enableFocusMusic=False, focusMinutes=1)
+        tick = alert_sound("Tink")
+        self.velto.press("Start")
+        wait_for(lambda: find_all(tick, self.recording.samples(3)), timeout=90, what="a tick")
+
+        self.restart_sound_server()
+
+        before = len(self.desktop.announcements)
+        wait_for(lambda: len(self.desktop.announcements) > before, what="the next second")
+        wait_for(lambda: find_all(tick, self.recording.samples()), timeout=len(tick) / RATE + 0.5, what="its tick")
+        wait_for(lambda: self.velto.phase == "Break", what="the end of the phase")
+        self.assert_counts_every_second(60)
+
+    def restart_sound_server(self):
         self.recording.stop()
         self.sound.kill()
         self.sound.start()
         self.recording = Recording(self.desktop)
 
-        self.wait_for_tone()
-        tick = alert_sound("Submarine")
-        self.velto.item.choose("Focus Music", "None")
-        wait_for(lambda: find_all(tick, self.recording.samples(3)), timeout=90, what="a tick")
+    def assert_counts_every_second(self, seconds):
+        """From the start of a phase of one minute."""
+        seen = self.desktop.announcements[:seconds]
+        self.assertEqual([label for _, _, label in seen], [f"00:{59 - second:02}" for second in range(seconds)])
+        self.assertLess(max(abs(when - seen[0][0] - second) for second, (when, _, _) in enumerate(seen)), 0.25)
 
     def test_it_is_played_by_a_program_that_shares_nothing_with_velto(self):
         self.start_velto("tone.mp3")

@@ -82,9 +82,18 @@ class Recording:
         wave_ = numpy.exp(-2j * numpy.pi * frequency / RATE * numpy.arange(len(samples)))
         return 2 * abs(numpy.mean(samples * wave_))
 
+    def sound_since(self, start):
+        """When the first and the last sound came after the first `start` samples, in seconds; LookupError without
+        one."""
+        loud = numpy.flatnonzero(numpy.abs(self.samples()[start:]) > 0.01)
+        return loud[0] / RATE, loud[-1] / RATE
+
     @property
     def has_tone(self):
         return bool(self.amplitude(TONE) > 0.8 * TONE_AMPLITUDE)
+
+    def has_tone_at(self, volume):
+        return bool(abs(self.amplitude(TONE) / TONE_AMPLITUDE - volume) < 0.05 * volume)
 
     @property
     def has_nothing(self):

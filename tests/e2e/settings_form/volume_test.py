@@ -5,7 +5,7 @@ import unittest
 
 from desktop import VirtualDesktop, wait_for
 from sheet import Sheet
-from sound import ENVIRONMENT, TONE, TONE_AMPLITUDE, Recording, SoundServer, StreamServer, settings_for
+from sound import ENVIRONMENT, Recording, SoundServer, StreamServer, settings_for
 
 
 class Volume(unittest.TestCase):
@@ -20,9 +20,7 @@ class Volume(unittest.TestCase):
         wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
 
     def wait_for_volume(self, volume):
-        def heard():
-            return abs(self.recording.amplitude(TONE) / TONE_AMPLITUDE - volume) < 0.05 * volume
-        wait_for(heard, what=f"the tone at {volume}")
+        wait_for(lambda: self.recording.has_tone_at(volume), what=f"the tone at {volume}")
 
     def scroll_down(self, sheet):
         slider = sheet.slider("Volume")
