@@ -66,8 +66,8 @@ class Run:
         self._mark = f"VELTO_RUN={time.monotonic()}"
         self.velto = desktop.start_velto(settings_for(url), ENVIRONMENT | dict([self._mark.split("=")]))
         self._name = self.velto.item.bus_name
+        self._window = wait_for(lambda: XWindow(desktop, self.velto.pid), what="the card, shown at launch")
         self.velto.item.choose("Start Focus")
-        self._window = wait_for(lambda: XWindow(desktop, self.velto.pid), what="the card")
 
     def follow(self, seconds):
         """How late, in seconds, were: every tick, as seen from the first one; this process, when it only announced a
@@ -123,12 +123,14 @@ class Misbehaviour(unittest.TestCase):
         for stream in STREAMS:
             with self.subTest(stream.name):
                 self.bear(stream)
+            self.doCleanups()
 
     def bear(self, stream):
         url = streams.url(stream.path, stream.port)
         for last_try in (False, False, True):
             connections = streams.connections
             run = Run(url)
+            self.addCleanup(run.velto.kill)
             tick, floor, answer = run.follow(stream.seconds)
             heard = run.is_heard
             end = run.quit()
