@@ -22,8 +22,6 @@ namespace velto {
 
 namespace {
 
-constexpr double cornerRadius = 18;
-
 bool takesText(const QWidget* widget)
 {
     return widget && widget->testAttribute(Qt::WA_InputMethodEnabled) && widget->focusPolicy() != Qt::NoFocus;
@@ -60,6 +58,13 @@ FloatingWindow::FloatingWindow(
         watchUse();
     if (x11::connection())
         watchCompositing();
+}
+
+void FloatingWindow::setCorners(double radius, ColorName edge)
+{
+    m_cornerRadius = radius;
+    m_edge = edge;
+    followShape();
 }
 
 void FloatingWindow::orderFront()
@@ -111,7 +116,7 @@ bool FloatingWindow::nativeEventFilter(const QByteArray& /*eventType*/, void* me
 void FloatingWindow::paintEvent(QPaintEvent* /*event*/)
 {
     if (!m_isComposited)
-        QPainter(this).fillRect(rect(), palette().window());
+        QPainter(this).fillRect(rect(), color(m_edge, *this));
 }
 
 void FloatingWindow::resizeEvent(QResizeEvent* /*event*/)
@@ -260,7 +265,7 @@ void FloatingWindow::followShape()
     if (m_isComposited)
         clearMask();
     else
-        setMask(QRegion(continuousRoundedRect(rect(), cornerRadius).toFillPolygon().toPolygon()));
+        setMask(QRegion(continuousRoundedRect(rect(), m_cornerRadius).toFillPolygon().toPolygon()));
 }
 
 } // namespace velto

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "style/Colors.h"
+
 #include <QAbstractNativeEventFilter>
 #include <QWidget>
 
@@ -29,6 +31,9 @@ public:
     FloatingWindow(
         std::unique_ptr<QWidget> content, std::function<void()> dismiss, Focus focus, QWidget* parent = nullptr);
 
+    /// The corners of the content and the colour of its edge, unless they are those of a card. Pixels that the
+    /// edge covers in part get its colour where they can't be translucent.
+    void setCorners(double radius, ColorName edge);
     void orderFront();
 
     /// Fetches the keyboard for the content's first control, or for the one that had it last; with another
@@ -63,6 +68,8 @@ private:
 
     std::function<void()> m_dismiss;
     Focus m_focus;
+    double m_cornerRadius = 18;
+    ColorName m_edge = ColorName::windowBackground;
     bool m_acceptsFocus = false;
     bool m_isComposited = true;
     int m_selectionEvent = -1;

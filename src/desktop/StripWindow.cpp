@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/StripWindow.h"
 
-#include "desktop/X11Desktop.h"
 #include "style/Colors.h"
 #include "style/ContinuousRect.h"
 
@@ -25,25 +24,12 @@ constexpr int sidePadding = 12;
 constexpr int linePadding = 6;
 constexpr double radius = 8;
 
-/// Kept out of task bars and pagers, and on every workspace.
-void stayOnEveryWorkspace(xcb_window_t window)
-{
-    const auto state = x11::atom("_NET_WM_STATE");
-    auto states = x11::property(window, state);
-    for (const auto* name : {"_NET_WM_STATE_STICKY", "_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"})
-        if (const auto atom = x11::atom(name); std::ranges::find(states, atom) == states.end())
-            states.push_back(atom);
-    x11::setProperty(window, state, XCB_ATOM_ATOM, states);
-    constexpr std::uint32_t everyWorkspace = 0xffffffff;
-    x11::setProperty(window, x11::atom("_NET_WM_DESKTOP"), XCB_ATOM_CARDINAL, {everyWorkspace});
-}
-
 } // namespace
 
 /// What is seen of the strip, and clicked.
 class StripWindow::Face final : public QWidget {
 public:
-    Face(StripWindow* strip, ClickHandler onClick) : QWidget(strip), m_onClick(std::move(onClick)), m_font(font())
+    explicit Face(ClickHandler onClick) : m_onClick(std::move(onClick)), m_font(font())
     {
         QAccessible::installFactory(makeAccessible);
         setContextMenuPolicy(Qt::PreventContextMenu);
@@ -85,9 +71,9 @@ protected:
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillRect(rect(), color(ColorName::windowBackground, *this));
-        painter.setPen(QPen(color(ColorName::controlOutline, *this), 1));
-        painter.drawPath(continuousRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius));
+        painter.fillPath(continuousRoundedRect(rect(), radius), color(ColorName::controlOutline, *this));
+        painter.fillPath(continuousRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius - 1),
+            color(ColorName::windowBackground, *this));
 
         auto ink = color(ColorName::label, *this);
         if (m_appearsDisabled)
@@ -166,20 +152,17 @@ private:
     bool m_appearsDisabled = false;
 };
 
-StripWindow::StripWindow(ClickHandler onClick) :
-    QWidget(nullptr,
-        Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus
-            | Qt::NoDropShadowWindowHint),
-    m_face(std::make_unique<Face>(this, std::move(onClick)))
+StripWindow::StripWindow(ClickHandler onClick) : StripWindow(new Face(std::move(onClick))) { }
+
+StripWindow::StripWindow(Face* face) :
+    FloatingWindow(
+        std::unique_ptr<QWidget>(face), [] {}, Focus::leftAlone),
+    m_face(face)
 {
-    setWindowTitle(QGuiApplication::applicationDisplayName());
-    setAttribute(Qt::WA_ShowWithoutActivating);
-    setAttribute(Qt::WA_QuitOnClose, false);
+    setCorners(radius, ColorName::controlOutline);
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &StripWindow::followScreen);
     followScreen();
 }
-
-StripWindow::~StripWindow() = default;
 
 void StripWindow::setText(const QString& text)
 {
@@ -200,13 +183,6 @@ void StripWindow::setAppearsDisabled(bool disabled)
     m_face->setAppearsDisabled(disabled);
 }
 
-void StripWindow::showEvent(QShowEvent* event)
-{
-    if (x11::connection())
-        stayOnEveryWorkspace(static_cast<xcb_window_t>(winId()));
-    QWidget::showEvent(event);
-}
-
 void StripWindow::followScreen()
 {
     if (const auto* screen = QGuiApplication::primaryScreen())
@@ -221,9 +197,7 @@ void StripWindow::place()
         return;
     const auto usable = screen->availableGeometry();
     const auto size = m_face->sizeHint();
-    m_face->setFixedSize(size);
     setFixedSize(size);
-    setMask(QRegion(continuousRoundedRect(QRectF(QPointF(), QSizeF(size)), radius).toFillPolygon().toPolygon()));
     move(usable.right() + 1 - distanceFromEdge - size.width(), usable.top() + distanceFromEdge);
 }
 

@@ -1,21 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/FloatingWindow.h"
 #include "platform/Application.h"
 
 #include <QFont>
-#include <QWidget>
 
 #include <functional>
-#include <memory>
 
 namespace velto {
 
 /// The time in a small window of its own, for desktops without a place for status items.
 ///
-/// Stands at the top right of the main screen's usable area, above other windows, never takes the
-/// focus, and is in no task bar. Main thread only.
-class StripWindow : public QWidget {
+/// Stands at the top right of the main screen's usable area and never takes the focus. Main thread only.
+class StripWindow final : public FloatingWindow {
     Q_OBJECT
 
 public:
@@ -23,22 +21,19 @@ public:
 
     explicit StripWindow(ClickHandler onClick);
 
-    ~StripWindow() override;
-
     void setText(const QString& text);
     void setTextFont(const QFont& font);
     void setAppearsDisabled(bool disabled);
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
     class Face;
+
+    explicit StripWindow(Face* face);
 
     void followScreen();
     void place();
 
-    std::unique_ptr<Face> m_face;
+    Face* m_face;
 };
 
 } // namespace velto

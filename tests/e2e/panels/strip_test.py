@@ -51,6 +51,30 @@ class TheStrip(unittest.TestCase):
         wait_for(lambda: field.text == "still here")
         self.assertEqual(self.desktop.focused_window, focused)
 
+    def test_it_is_above_others_on_every_workspace_and_in_no_task_bar(self):
+        x, y, _, _ = self.strip().rectangle
+        for window in self.desktop.ask("xdotool", "search", "--onlyvisible", "--class", "org.velto.Velto").split():
+            if f"Absolute upper-left X:  {x}\n  Absolute upper-left Y:  {y}\n" in self.desktop.ask(
+                    "xwininfo", "-id", window):
+                break
+        states = self.desktop.ask("xprop", "-id", window, "_NET_WM_STATE", "_NET_WM_DESKTOP")
+
+        for state in ("ABOVE", "STICKY", "SKIP_TASKBAR", "SKIP_PAGER"):
+            self.assertIn(f"_NET_WM_STATE_{state}", states)
+        self.assertIn(f"= {0xffffffff}", states)
+
+    def test_the_desktop_is_seen_beside_its_corners_with_and_without_a_compositor(self):
+        def corner_is_the_desktop():
+            picture = self.desktop.picture()
+            x, y, _, _ = self.strip().rectangle
+            return (picture[x, y] == picture[x - 1, y] and picture[x, y + 8] != picture[x - 1, y + 8])
+
+        wait_for(corner_is_the_desktop)
+        with VirtualDesktop(host="none", compositing=True) as self.desktop:
+            self.velto = self.desktop.start_velto({})
+            wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
+            wait_for(corner_is_the_desktop)
+
     def test_a_left_click_toggles_the_card_and_so_does_a_middle_click(self):
         self.click()
         wait_for(lambda: not self.velto.card_is_visible)
