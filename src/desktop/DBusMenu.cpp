@@ -7,6 +7,7 @@
 
 #include <QBuffer>
 #include <QDBusError>
+#include <QDBusMessage>
 #include <QGuiApplication>
 
 #include <algorithm>
@@ -67,6 +68,11 @@ QVariantMap chosen(const QVariantMap& properties, const QStringList& names)
         if (names.contains(property.key()))
             result.insert(property.key(), property.value());
     return result;
+}
+
+QString noEntry(int id)
+{
+    return QStringLiteral("The menu has no entry %1").arg(id);
 }
 
 } // namespace
@@ -187,32 +193,43 @@ DBusMenuLayout DBusMenu::layoutOf(int id, int depth, const QStringList& property
     return layout;
 }
 
-uint DBusMenu::GetLayout(int parentId, int recursionDepth, const QStringList& propertyNames, DBusMenuLayout& layout)
+void DBusMenu::answer(std::function<QDBusMessage(const QDBusMessage&)> reply)
 {
-    if (m_refresh.isActive())
-        refresh();
-    if (m_nodes.contains(parentId))
-        layout = layoutOf(parentId, recursionDepth, propertyNames);
-    else
-        refuseUnknown(parentId);
-    return m_revision;
+    setDelayedReply(true);
+    m_answers.run([this, question = message(), reply = std::move(reply)] {
+        if (m_refresh.isActive())
+            refresh();
+        m_bus.send(reply(question));
+    });
+}
+
+uint DBusMenu::GetLayout(int parentId, int recursionDepth, const QStringList& propertyNames, DBusMenuLayout& /*layout*/)
+{
+    answer([this, parentId, recursionDepth, propertyNames](const QDBusMessage& question) {
+        if (!m_nodes.contains(parentId))
+            return question.createErrorReply(QDBusError::InvalidArgs, noEntry(parentId));
+        return question.createReply(
+            {m_revision, QVariant::fromValue(layoutOf(parentId, recursionDepth, propertyNames))});
+    });
+    return {};
 }
 
 DBusMenuItems DBusMenu::GetGroupProperties(const QList<int>& ids, const QStringList& propertyNames)
 {
-    if (m_refresh.isActive())
-        refresh();
-    DBusMenuItems items;
-    const auto add = [&](int id) {
-        if (const auto node = m_nodes.find(id); node != m_nodes.end())
-            items.append({id, chosen(node->second.properties, propertyNames)});
-    };
-    if (ids.isEmpty())
-        for (const auto& [id, node] : m_nodes)
-            add(id);
-    else
-        std::ranges::for_each(ids, add);
-    return items;
+    answer([this, ids, propertyNames](const QDBusMessage& question) {
+        DBusMenuItems items;
+        const auto add = [&](int id) {
+            if (const auto node = m_nodes.find(id); node != m_nodes.end())
+                items.append({id, chosen(node->second.properties, propertyNames)});
+        };
+        if (ids.isEmpty())
+            for (const auto& [id, node] : m_nodes)
+                add(id);
+        else
+            std::ranges::for_each(ids, add);
+        return question.createReply(QVariant::fromValue(items));
+    });
+    return {};
 }
 
 QDBusVariant DBusMenu::GetProperty(int id, const QString& name)
@@ -308,7 +325,7 @@ bool DBusMenu::handleAboutToShow(int id)
 void DBusMenu::refuseUnknown(int id)
 {
     if (calledFromDBus())
-        sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("The menu has no entry %1").arg(id));
+        sendErrorReply(QDBusError::InvalidArgs, noEntry(id));
 }
 
 } // namespace velto

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/DBusMenuTypes.h"
+#include "desktop/Throttle.h"
 #include "platform/Menu.h"
 
 #include <QDBusConnection>
@@ -18,7 +19,8 @@ namespace velto {
 /// A menu as an object on the bus, for panel hosts that draw menus themselves.
 ///
 /// Keeps a picture of the menu as the hosts know it, and tells them the difference when it changes.
-/// Entries keep their number for as long as they are in the menu; 0 is the menu itself. Main thread only.
+/// Entries keep their number for as long as they are in the menu; 0 is the menu itself. However many
+/// questions come, the rest of the program has its turn between the answers. Main thread only.
 class DBusMenu : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
@@ -77,6 +79,8 @@ private:
     QList<int> addNodes(Nodes& nodes, const std::vector<std::shared_ptr<MenuItem>>& items);
     [[nodiscard]] int idOf(const std::shared_ptr<MenuItem>& item);
     void announce(const Nodes& before);
+    /// Sends `reply` to the question being handled, perhaps later; what the slot returns is not sent.
+    void answer(std::function<QDBusMessage(const QDBusMessage&)> reply);
     [[nodiscard]] DBusMenuLayout layoutOf(int id, int depth, const QStringList& propertyNames) const;
     bool handleEvent(int id, const QString& name);
     bool handleAboutToShow(int id);
@@ -87,6 +91,7 @@ private:
     std::shared_ptr<Menu> m_menu = std::make_shared<Menu>();
     std::shared_ptr<MenuItem> m_leadingItem;
     QTimer m_refresh;
+    Throttle m_answers;
     Nodes m_nodes;
     std::map<std::shared_ptr<MenuItem>, int> m_ids;
     int m_lastId = 0;

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTimer>
+
+#include <deque>
+#include <functional>
+
+namespace velto {
+
+/// Runs works in order: at once as long as they are few, else some every 10 ms, so that everything else
+/// has its turn in between. Main thread only.
+class Throttle {
+public:
+    Throttle();
+
+    void run(std::function<void()> work);
+
+private:
+    void runWaiting();
+
+    std::deque<std::function<void()>> m_waiting;
+    QTimer m_timer;
+    int m_runs = 0; ///< Since the timer's latest tick.
+};
+
+} // namespace velto
