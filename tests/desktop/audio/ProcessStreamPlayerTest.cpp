@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "StreamTest.h"
+#include "support/FakeRunLoop.h"
 
 #include <cmath>
 #include <csignal>
@@ -91,8 +92,8 @@ TEST_F(ProcessStreamPlayerTest, VolumeIsLinear)
         {0.5F, 0.5}, {0.25F, 0.25}, {1.7F, 1}, {-0.2F, 0}, {0.5F, 0.5}, {std::nanf(""), 0}, {1, 1}};
     for (const auto& [volume, amplitude] : volumes) {
         setVolume(volume);
-        EXPECT_TRUE(eventually([&] {
-            return std::abs(recording->amplitude(tone) / toneAmplitude - amplitude) < std::max(0.05 * amplitude, 0.001);
+        EXPECT_TRUE(eventually([&, expected = amplitude] {
+            return std::abs(recording->amplitude(tone) / toneAmplitude - expected) < std::max(0.05 * expected, 0.001);
         })) << volume
             << " gives " << recording->amplitude(tone) / toneAmplitude;
     }
@@ -144,6 +145,30 @@ TEST_F(ProcessStreamPlayerTest, ComesBackWhenTheStreamStalls)
     EXPECT_TRUE(eventually([&] { return streams.connections() == 2; }));
     EXPECT_LT(Clock::now() - silent, 10s);
     EXPECT_TRUE(eventually([&] { return toneIsHeard(); }));
+}
+
+TEST_F(ProcessStreamPlayerTest, LeavesAFailingStreamAloneForLongerEachTime)
+{
+    FakeRunLoop time;
+    ProcessStreamPlayerFactory failing("/bin/false", time);
+    player = failing.makePlayer(streams.url("tone.mp3"));
+    for (int round = 0; round < 2; ++round) {
+        playAgain();
+        for (const auto delay : {1000ms, 2000ms, 4000ms, 8000ms, 16000ms, 30000ms, 30000ms}) {
+            ASSERT_TRUE(eventually([&] { return time.liveTimers() == 1; })) << "no attempt has failed";
+            const auto shortest = std::max(1000ms, delay * 4 / 5);
+            time.advance(shortest - 1ms);
+            EXPECT_EQ(time.liveTimers(), 1) << "tried again too early";
+            time.advance(delay * 5 / 4 - shortest + 1ms);
+            EXPECT_EQ(time.liveTimers(), 0) << "tried again too late";
+        }
+        ASSERT_TRUE(eventually([&] { return time.liveTimers() == 1; }));
+    }
+
+    pause();
+
+    EXPECT_EQ(time.liveTimers(), 0);
+    dropPlayer();
 }
 
 TEST_F(ProcessStreamPlayerTest, ComesBackWithTheSoundServer)

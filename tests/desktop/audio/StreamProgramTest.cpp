@@ -99,6 +99,17 @@ TEST_F(StreamProgramTest, FollowsARedirectionWithTheVolumeThatHolds)
     EXPECT_TRUE(eventually([&] { return recording->amplitude(tone) > 0.7 * toneAmplitude; }));
 }
 
+TEST_F(StreamProgramTest, FollowsTenRedirectionsAndNoMore)
+{
+    start(streams.url("loop/39"));
+    EXPECT_TRUE(endsInSilence(20s));
+    EXPECT_EQ(streams.connections(), 11);
+
+    recording = std::make_unique<Recording>();
+    start(streams.url("loop/40"));
+    EXPECT_TRUE(eventually([&] { return toneIsHeard(); }));
+}
+
 TEST_F(StreamProgramTest, PlaysNothingButTheWeb)
 {
     for (const auto* url : {"file:///etc/passwd", "", "playbin"}) {

@@ -207,8 +207,19 @@ class Music(unittest.TestCase):
         self.start_velto("tone.mp3")
         self.velto.press("Start")
         self.wait_for_tone()
-        program, = self.programs()
 
+        self.assert_dies_with_velto(self.programs()[0])
+
+    def test_not_even_a_program_that_hangs_outlives_velto(self):
+        self.start_velto("tone.mp3")
+        self.velto.press("Start")
+        self.wait_for_tone()
+        program, = self.programs()
+        os.kill(program, signal.SIGSTOP)
+
+        self.assert_dies_with_velto(program)
+
+    def assert_dies_with_velto(self, program):
         before = time.monotonic()
         self.velto.kill(signal.SIGKILL)
         wait_for(lambda: not os.path.exists(f"/proc/{program}/exe"), what="the program's end")
