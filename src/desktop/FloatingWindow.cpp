@@ -56,6 +56,8 @@ FloatingWindow::FloatingWindow(
     winId();
     if (focus != Focus::taken)
         watchUse();
+    else if (!parent)
+        watchLoss();
     if (x11::connection())
         watchCompositing();
 }
@@ -100,6 +102,8 @@ void FloatingWindow::setVisible(bool visible)
     // A window manager forgets what a hidden window was.
     if (visible && !isVisible() && x11::connection())
         announceState();
+    if (!visible && m_focus == Focus::taken)
+        leaveFocusToParent();
     if (!visible)
         setAcceptsFocus(false);
     QWidget::setVisible(visible);
@@ -140,15 +144,6 @@ void FloatingWindow::contextMenuEvent(QContextMenuEvent* event)
         emit menuRequested();
 }
 
-bool FloatingWindow::event(QEvent* event)
-{
-    const bool isHandled = QWidget::event(event);
-    if (event->type() == QEvent::WindowDeactivate && m_focus == Focus::taken && isVisible()
-        && !isWithin(this, QApplication::activeWindow()))
-        m_dismiss();
-    return isHandled;
-}
-
 bool FloatingWindow::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == windowHandle() && event->type() == QEvent::MouseButtonPress)
@@ -168,6 +163,17 @@ void FloatingWindow::watchUse()
         // A menu has no keyboard of its own.
         if (!isWithin(this, now) && !QApplication::activePopupWidget())
             setAcceptsFocus(false);
+    });
+}
+
+/// By windows of the desktop: between two of these, the toolkit's widgets are all inactive for a moment.
+void FloatingWindow::watchLoss()
+{
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* now) {
+        while (now && now != windowHandle())
+            now = now->transientParent();
+        if (!now && isVisible())
+            m_dismiss();
     });
 }
 
@@ -224,6 +230,14 @@ void FloatingWindow::returnFocus()
         x11::focus(static_cast<xcb_window_t>(below->winId()));
     else if (m_previouslyFocused != XCB_WINDOW_NONE)
         x11::focus(m_previouslyFocused);
+}
+
+/// To lose the keyboard to another program would dismiss the parent, too.
+void FloatingWindow::leaveFocusToParent()
+{
+    auto* below = qobject_cast<FloatingWindow*>(parentWidget());
+    if (below && below->isVisible() && isActiveWindow())
+        below->activateWindow();
 }
 
 void FloatingWindow::announceState()

@@ -52,15 +52,16 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
-    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void watchUse();
+    void watchLoss();
     [[nodiscard]] bool needsKeyboard(const QWidget* widget) const;
     void setAcceptsFocus(bool accepts);
     void fetchFocus();
     void returnFocus();
+    void leaveFocusToParent();
     void announceState();
     void watchCompositing();
     void followCompositing();
