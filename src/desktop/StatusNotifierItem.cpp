@@ -2,6 +2,7 @@
 #include "desktop/StatusNotifierItem.h"
 
 #include "desktop/StatusNotifierNames.h"
+#include "desktop/X11Desktop.h"
 
 #include <QDBusMessage>
 #include <QDBusMetaType>
@@ -74,6 +75,12 @@ void StatusNotifierItem::SecondaryActivate(int x, int y)
 void StatusNotifierItem::ContextMenu(int x, int y)
 {
     m_onClick(ClickEvent::Kind::rightMouseUp, {x, y});
+}
+
+void StatusNotifierItem::ProvideXdgActivationToken(const QString& token)
+{
+    if (x11::connection())
+        x11::endStartup(token.toStdString());
 }
 
 void StatusNotifierItem::Scroll(int /*delta*/, const QString& /*orientation*/) { }

@@ -59,6 +59,8 @@ public Q_SLOTS:
     Q_SCRIPTABLE void Activate(int x, int y);
     Q_SCRIPTABLE void SecondaryActivate(int x, int y);
     Q_SCRIPTABLE void ContextMenu(int x, int y);
+    /// Comes before each click on some hosts, which wait for what it is used for with a busy pointer.
+    Q_SCRIPTABLE void ProvideXdgActivationToken(const QString& token);
     Q_SCRIPTABLE void Scroll(int delta, const QString& orientation);
 
 Q_SIGNALS:

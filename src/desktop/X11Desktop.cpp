@@ -3,8 +3,10 @@
 
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
+#include <string>
 
 namespace velto::x11 {
 
@@ -107,6 +109,31 @@ void focus(xcb_window_t window)
     } else {
         xcb_set_input_focus(connection(), XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
     }
+    xcb_flush(connection());
+}
+
+void endStartup(std::string_view id)
+{
+    std::string text = "remove: ID=";
+    text += id;
+    const xcb_window_t sender = xcb_generate_id(connection());
+    xcb_create_window(connection(), XCB_COPY_FROM_PARENT, sender, rootWindow(), -1, -1, 1, 1, 0,
+        XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 8;
+    message.window = sender;
+    message.type = atom("_NET_STARTUP_INFO_BEGIN");
+    constexpr std::size_t room = sizeof message.data.data8;
+    for (std::size_t start = 0; start <= text.size(); start += room) { // with the null that ends it
+        const auto part = text.substr(start, room);
+        std::ranges::fill(message.data.data8, 0);
+        std::ranges::copy(part, message.data.data8);
+        xcb_send_event(
+            connection(), 0, rootWindow(), XCB_EVENT_MASK_PROPERTY_CHANGE, reinterpret_cast<const char*>(&message));
+        message.type = atom("_NET_STARTUP_INFO");
+    }
+    xcb_destroy_window(connection(), sender);
     xcb_flush(connection());
 }
 

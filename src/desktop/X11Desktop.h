@@ -34,6 +34,9 @@ void setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t type, const st
 /// Asks for `window` to get the keys, whatever has them.
 void focus(xcb_window_t window);
 
+/// Tells the desktop that what it expected to start, and shows a busy pointer for, has started.
+void endStartup(std::string_view id);
+
 struct Pointer {
     std::vector<xcb_window_t> windows; ///< Under it, outermost first; none where the desktop is bare.
     std::int16_t x = 0;                ///< Pixels of the X screen, origin top left.

@@ -72,7 +72,8 @@ TEST_F(StatusNotifierItemTest, IsDescribedByIntrospection)
              "<property name=\"Menu\" type=\"o\" access=\"read\"/>",
              "<property name=\"ItemIsMenu\" type=\"b\" access=\"read\"/>", "<method name=\"Activate\">",
              "<method name=\"SecondaryActivate\">", "<method name=\"ContextMenu\">", "<method name=\"Scroll\">",
-             "<signal name=\"NewIcon\">", "<signal name=\"NewToolTip\">", "<signal name=\"XAyatanaNewLabel\">"})
+             "<method name=\"ProvideXdgActivationToken\">", "<signal name=\"NewIcon\">", "<signal name=\"NewToolTip\">",
+             "<signal name=\"XAyatanaNewLabel\">"})
         EXPECT_TRUE(xml.contains(QLatin1String(expected))) << expected << " in " << xml.toStdString();
 }
 
