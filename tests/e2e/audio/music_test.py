@@ -1,41 +1,14 @@
 # SPDX-License-Identifier: MIT
 """Background music, from the first connection to the last sound."""
-import os
-import signal
-import time
 import unittest
 
-from desktop import VirtualDesktop, holds, wait_for
+from desktop import holds, wait_for
 
-from sound import ENVIRONMENT, RATE, Recording, SoundServer, StreamServer, alert_sound, find_all, settings_for
-
-
-def handles(pid):
-    """What a process has open that it could share with another one."""
-    opened = {os.readlink(f"/proc/{pid}/fd/{name}") for name in os.listdir(f"/proc/{pid}/fd")}
-    return {name for name in opened if name != os.devnull and not name.startswith("anon_inode:")}
+from music import MusicStory
+from sound import ENVIRONMENT, RATE, Recording, alert_sound, find_all, settings_for
 
 
-class Music(unittest.TestCase):
-    def setUp(self):
-        self.desktop = self.enterContext(VirtualDesktop(host="press"))
-        self.sound = SoundServer(self.desktop)
-        self.streams = StreamServer()
-        self.addCleanup(self.streams.close)
-        self.recording = Recording(self.desktop)
-
-    def start_velto(self, path, port="plain", **settings):
-        self.url = self.streams.url(path, port)
-        self.velto = self.desktop.start_velto(settings_for(self.url, **settings), ENVIRONMENT)
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
-
-    def wait_for_tone(self):
-        wait_for(lambda: self.recording.has_tone, what="the tone")
-
-    def wait_for_silence(self):
-        wait_for(lambda: self.streams.open_connections == 0, what="the connection's end")
-        wait_for(lambda: self.recording.has_nothing, what="silence")
-
+class Music(MusicStory):
     def sound_after(self, button, heard):
         """When the first and the last sound came after a press on `button`, as soon as it was `heard`."""
         button = self.velto.card.find("push button", button)
@@ -46,15 +19,6 @@ class Music(unittest.TestCase):
 
     def clients(self):
         return self.sound.list("clients").count('application.name = "velto"')
-
-    def libraries(self):
-        with open(f"/proc/{self.velto.pid}/maps", encoding="utf-8") as file:
-            return file.read()
-
-    def programs(self):
-        """The processes that velto has started."""
-        with open(f"/proc/{self.velto.pid}/task/{self.velto.pid}/children", encoding="utf-8") as file:
-            return [int(child) for child in file.read().split()]
 
     def test_nothing_is_touched_before_it_is_needed(self):
         self.start_velto("tone.mp3")
@@ -178,74 +142,6 @@ class Music(unittest.TestCase):
         self.assertEqual([label for _, _, label in seen], [f"00:{59 - second:02}" for second in range(seconds)])
         self.assertLess(max(abs(when - seen[0][0] - second) for second, (when, _, _) in enumerate(seen)), 0.25)
 
-    def test_it_is_played_by_a_program_that_shares_nothing_with_velto(self):
-        self.start_velto("tone.mp3")
-        self.velto.press("Start")
-        self.wait_for_tone()
-
-        program, = self.programs()
-        self.assertEqual(handles(program) & handles(self.velto.pid), {os.readlink(f"/proc/{program}/fd/0")})
-        self.assertEqual(os.readlink(f"/proc/{program}/fd/1"), os.devnull)
-        self.assertNotIn("libgst", self.libraries())
-        self.assertEqual(self.desktop.log("velto"), "")
-
-    def test_it_comes_back_when_that_program_is_killed(self):
-        self.start_velto("tone.mp3")
-        self.velto.press("Start")
-        for deadly in (signal.SIGSEGV, signal.SIGKILL):
-            self.wait_for_tone()
-            program, = self.programs()
-
-            os.kill(program, deadly)
-
-            wait_for(lambda killed=program: self.programs() not in ([], [killed]), what="another program")
-        self.wait_for_tone()
-        self.assertEqual(self.streams.connections, 3)
-        self.assertEqual(len(self.velto.output), 1)
-
-    def test_nothing_plays_on_after_velto_was_killed(self):
-        self.start_velto("tone.mp3")
-        self.velto.press("Start")
-        self.wait_for_tone()
-
-        self.assert_dies_with_velto(self.programs()[0])
-
-    def test_not_even_a_program_that_hangs_outlives_velto(self):
-        self.start_velto("tone.mp3")
-        self.velto.press("Start")
-        self.wait_for_tone()
-        program, = self.programs()
-        os.kill(program, signal.SIGSTOP)
-
-        self.assert_dies_with_velto(program)
-
-    def assert_dies_with_velto(self, program):
-        before = time.monotonic()
-        self.velto.kill(signal.SIGKILL)
-        wait_for(lambda: not os.path.exists(f"/proc/{program}/exe"), what="the program's end")
-        self.wait_for_silence()
-        self.assertLess(time.monotonic() - before, 1)
-
-    def test_when_that_program_hangs_it_is_stopped_all_the_same(self):
-        self.start_velto("tone.mp3")
-        self.velto.press("Start")
-        self.wait_for_tone()
-        os.kill(self.programs()[0], signal.SIGSTOP)
-
-        self.velto.press("Pause")
-
-        wait_for(lambda: self.programs() == [], what="the program's end")
-        self.wait_for_silence()
-
-    def test_when_that_program_hangs_it_does_not_hold_up_the_end(self):
-        self.start_velto("tone.mp3")
-        self.velto.press("Start")
-        self.wait_for_tone()
-        os.kill(self.programs()[0], signal.SIGSTOP)
-
-        self.assert_quits_at_once()
-        self.wait_for_silence()
-
     def test_an_unusable_address_is_reported_and_nothing_else(self):
         self.velto = self.desktop.start_velto(settings_for("no address"), ENVIRONMENT)
         wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
@@ -271,12 +167,6 @@ class Music(unittest.TestCase):
         self.sound.freeze()
 
         self.assert_quits_at_once()
-
-    def assert_quits_at_once(self):
-        before = time.monotonic()
-        self.velto.item.choose("Quit")
-        self.assertEqual(self.velto.wait(), 0)
-        self.assertLess(time.monotonic() - before, 1)
 
 
 if __name__ == "__main__":
