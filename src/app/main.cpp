@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/Platform.h"
 #include "app/VeltoApp.h"
+#include "desktop/BackgroundOutput.h"
 #include "desktop/BuildBundle.h"
 #include "desktop/CanberraSoundLibrary.h"
 #include "desktop/DesktopStatusItem.h"
@@ -27,6 +28,9 @@
 
 #include <csignal>
 #include <filesystem>
+#include <iostream>
+
+#include <unistd.h>
 
 namespace velto {
 
@@ -57,6 +61,7 @@ int run(QApplication& application)
     if (!instance.claim())
         return 0;
 
+    const BackgroundOutput output(std::cout, STDOUT_FILENO);
     const Appearance appearance;
     QtRunLoop runLoop;
     QtScreens screens;
