@@ -22,6 +22,8 @@ namespace velto {
 
 namespace {
 
+constexpr std::uint32_t everyWorkspace = 0xffffffff;
+
 bool takesText(const QWidget* widget)
 {
     return widget && widget->testAttribute(Qt::WA_InputMethodEnabled) && widget->focusPolicy() != Qt::NoFocus;
@@ -46,7 +48,6 @@ FloatingWindow::FloatingWindow(
     m_focus(focus)
 {
     setAttribute(Qt::WA_TranslucentBackground);
-    setAttribute(Qt::WA_X11NetWmWindowTypeNotification);
     setAttribute(Qt::WA_ShowWithoutActivating, focus != Focus::taken);
     setWindowTitle(QApplication::applicationDisplayName());
     auto* layout = new QVBoxLayout(this);
@@ -58,8 +59,10 @@ FloatingWindow::FloatingWindow(
         watchUse();
     else if (!parent)
         watchLoss();
-    if (x11::connection())
+    if (x11::connection()) {
+        qApp->installNativeEventFilter(this);
         watchCompositing();
+    }
 }
 
 void FloatingWindow::setCorners(double radius, ColorName edge)
@@ -112,8 +115,12 @@ void FloatingWindow::setVisible(bool visible)
 bool FloatingWindow::nativeEventFilter(const QByteArray& /*eventType*/, void* message, qintptr* /*result*/)
 {
     const auto* event = static_cast<const xcb_generic_event_t*>(message);
-    if ((event->response_type & 0x7f) == m_selectionEvent)
+    const int type = event->response_type & 0x7f;
+    if (type == m_selectionEvent)
         followCompositing();
+    else if (type == XCB_MAP_NOTIFY
+        && static_cast<const xcb_map_notify_event_t*>(message)->window == static_cast<xcb_window_t>(winId()))
+        demandState();
     return false;
 }
 
@@ -246,8 +253,20 @@ void FloatingWindow::announceState()
     x11::setProperty(self, x11::atom("_NET_WM_STATE"), XCB_ATOM_ATOM,
         {x11::atom("_NET_WM_STATE_ABOVE"), x11::atom("_NET_WM_STATE_STICKY"), x11::atom("_NET_WM_STATE_SKIP_TASKBAR"),
             x11::atom("_NET_WM_STATE_SKIP_PAGER")});
-    constexpr std::uint32_t everyWorkspace = 0xffffffff;
     x11::setProperty(self, x11::atom("_NET_WM_DESKTOP"), XCB_ATOM_CARDINAL, {everyWorkspace});
+}
+
+/// A window manager that clears up after the window's hiding may clear away what was announced for its next showing.
+void FloatingWindow::demandState()
+{
+    constexpr std::uint32_t add = 1;
+    constexpr std::uint32_t asApplication = 1;
+    const auto self = static_cast<xcb_window_t>(winId());
+    x11::request(self, "_NET_WM_STATE",
+        {add, x11::atom("_NET_WM_STATE_ABOVE"), x11::atom("_NET_WM_STATE_STICKY"), asApplication});
+    x11::request(self, "_NET_WM_STATE",
+        {add, x11::atom("_NET_WM_STATE_SKIP_TASKBAR"), x11::atom("_NET_WM_STATE_SKIP_PAGER"), asApplication});
+    x11::request(self, "_NET_WM_DESKTOP", {everyWorkspace, asApplication});
 }
 
 void FloatingWindow::watchCompositing()
@@ -260,7 +279,6 @@ void FloatingWindow::watchCompositing()
             XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER
                 | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY
                 | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
-        qApp->installNativeEventFilter(this);
     }
     followCompositing();
 }

@@ -63,6 +63,7 @@ private:
     void returnFocus();
     void leaveFocusToParent();
     void announceState();
+    void demandState();
     void watchCompositing();
     void followCompositing();
     void followShape();

@@ -97,18 +97,24 @@ void focus(xcb_window_t window)
 {
     if (hasWindowManager()) {
         constexpr std::uint32_t asPager = 2;
-        xcb_client_message_event_t request{};
-        request.response_type = XCB_CLIENT_MESSAGE;
-        request.format = 32;
-        request.window = window;
-        request.type = atom("_NET_ACTIVE_WINDOW");
-        request.data.data32[0] = asPager;
-        xcb_send_event(connection(), 0, rootWindow(),
-            XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
-            reinterpret_cast<const char*>(&request));
+        request(window, "_NET_ACTIVE_WINDOW", {asPager});
     } else {
         xcb_set_input_focus(connection(), XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
+        xcb_flush(connection());
     }
+}
+
+void request(xcb_window_t window, std::string_view message, const std::array<std::uint32_t, 5>& items)
+{
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = atom(message);
+    std::ranges::copy(items, event.data.data32);
+    xcb_send_event(connection(), 0, rootWindow(),
+        XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+        reinterpret_cast<const char*>(&event));
     xcb_flush(connection());
 }
 

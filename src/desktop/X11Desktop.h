@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -33,6 +34,8 @@ void setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t type, const st
 [[nodiscard]] xcb_window_t focusedWindow();
 /// Asks for `window` to get the keys, whatever has them.
 void focus(xcb_window_t window);
+/// Asks the window manager, by the message of that name, to do something with a window that it manages.
+void request(xcb_window_t window, std::string_view message, const std::array<std::uint32_t, 5>& items);
 
 /// Tells the desktop that what it expected to start, and shows a busy pointer for, has started.
 void endStartup(std::string_view id);
