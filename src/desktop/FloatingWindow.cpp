@@ -76,17 +76,19 @@ void FloatingWindow::orderFront()
 {
     show();
     raise();
-    if (m_focus == Focus::taken)
-        activateWindow();
+    if (m_focus != Focus::taken)
+        return;
+    auto& top = shownSheet() ? *shownSheet() : *this;
+    top.activateWindow();
+    top.activateWidgets();
 }
 
 void FloatingWindow::takeKeyboard()
 {
     if (!isVisible())
         return;
-    for (auto* sheet : findChildren<FloatingWindow*>(Qt::FindDirectChildrenOnly))
-        if (sheet->isVisible())
-            return sheet->takeKeyboard();
+    if (auto* sheet = shownSheet())
+        return sheet->takeKeyboard();
 
     if (!focusWidget() || !(focusWidget()->focusPolicy() & Qt::TabFocus))
         focusNextPrevChild(true);
@@ -95,7 +97,7 @@ void FloatingWindow::takeKeyboard()
     else
         setAttribute(Qt::WA_KeyboardFocusChange);
     if (m_focus == Focus::taken)
-        activateWindow();
+        claimFocus();
     else
         setAcceptsFocus(true);
 }
@@ -173,15 +175,23 @@ void FloatingWindow::watchUse()
     });
 }
 
-/// By windows of the desktop: between two of these, the toolkit's widgets are all inactive for a moment.
+/// Lost is what another program has. Between two windows of this one the toolkit's widgets are all inactive for a
+/// moment, its windows are not.
 void FloatingWindow::watchLoss()
 {
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* now) {
-        while (now && now != windowHandle())
-            now = now->transientParent();
         if (!now && isVisible())
             m_dismiss();
     });
+}
+
+/// With it the window takes no keys.
+FloatingWindow* FloatingWindow::shownSheet() const
+{
+    for (auto* sheet : findChildren<FloatingWindow*>(Qt::FindDirectChildrenOnly))
+        if (sheet->isVisible())
+            return sheet;
+    return nullptr;
 }
 
 bool FloatingWindow::needsKeyboard(const QWidget* widget) const
@@ -223,9 +233,20 @@ void FloatingWindow::fetchFocus()
 {
     const auto* below = qobject_cast<FloatingWindow*>(parentWidget());
     m_previouslyFocused = below && below->m_acceptsFocus ? below->m_previouslyFocused : x11::focusedWindow();
-    x11::focus(static_cast<xcb_window_t>(winId()));
-    // Hidden with the keyboard a moment ago, the window is still the active one for one half of the toolkit, which
-    // would not tell the other that it is so again.
+    claimFocus();
+}
+
+void FloatingWindow::claimFocus()
+{
+    if (x11::connection())
+        x11::focus(static_cast<xcb_window_t>(winId()));
+    activateWidgets();
+}
+
+/// Hidden with the keyboard, the window has stayed the active one for one half of the toolkit, which would not tell
+/// the other, the widgets, that it is so again.
+void FloatingWindow::activateWidgets()
+{
     if (QGuiApplication::focusWindow() == windowHandle())
         QApplication::setActiveWindow(this);
 }

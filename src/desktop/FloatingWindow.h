@@ -24,7 +24,8 @@ public:
     enum class Focus {
         leftAlone, ///< While a text field of the content is being edited.
         whenUsed,  ///< From the use of a control of the content to a press beside the controls.
-        taken,     ///< By showing. Losing it dismisses the window: for desktops where presses elsewhere can't be seen.
+        taken,     ///< By showing. Losing it to another program dismisses the window: for desktops where presses
+                   ///< elsewhere can't be seen.
     };
 
     /// `dismiss` runs for Escape, unless the content has used it, and for the loss of a taken focus.
@@ -57,9 +58,12 @@ protected:
 private:
     void watchUse();
     void watchLoss();
+    [[nodiscard]] FloatingWindow* shownSheet() const;
     [[nodiscard]] bool needsKeyboard(const QWidget* widget) const;
     void setAcceptsFocus(bool accepts);
     void fetchFocus();
+    void claimFocus();
+    void activateWidgets();
     void returnFocus();
     void leaveFocusToParent();
     void announceState();

@@ -6,16 +6,37 @@ import unittest
 from desktop import VirtualDesktop, holds, wait_for
 
 
-class XWayland(unittest.TestCase):
+WAYLAND = {"WAYLAND_DISPLAY": "wayland-9"}
+
+
+class Story(unittest.TestCase):
+    host = "xfce"
+
     def setUp(self):
-        self.desktop = self.enterContext(VirtualDesktop())
+        self.desktop = self.enterContext(VirtualDesktop(host=self.host))
         self.other = self.desktop.open_window("other")
-        self.velto = self.desktop.start_velto({}, environment={"WAYLAND_DISPLAY": "wayland-9"})
+        self.velto = self.desktop.start_velto({}, environment=WAYLAND)
         wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
         wait_for(lambda: not self.other.has_state("focused"), what="the card with the keyboard")
 
     def hidden(self):
         return not self.velto.card_is_visible
+
+    def click_other(self):
+        x, y, _, height = self.other.rectangle
+        self.desktop.click(x + 5, y + height - 5)
+
+    def open_form(self):
+        self.velto.item.choose("Settings…")
+        field = wait_for(lambda: self.velto.app.find("text", "Focus"), what="the form")
+        wait_for(lambda: field.has_state("focused"), what="the keyboard in the first field")
+        return field
+
+    def menu_is_open(self):
+        return bool(self.velto.app.find_all("menu item", "Quit"))
+
+
+class XWayland(Story):
 
     def test_escape_hides_the_card_and_the_other_window_has_the_keyboard_again(self):
         self.desktop.key("Escape")
@@ -24,8 +45,7 @@ class XWayland(unittest.TestCase):
         wait_for(lambda: self.other.has_state("focused"), what="the keyboard back")
 
     def test_the_card_goes_with_the_keyboard(self):
-        x, y, width, height = self.other.rectangle
-        self.desktop.click(x + 5, y + height - 5)
+        self.click_other()
 
         wait_for(self.hidden, what="the hidden card")
 
@@ -38,8 +58,7 @@ class XWayland(unittest.TestCase):
             wait_for(lambda: self.velto.card_is_visible, what="the card")
 
     def test_a_cancelled_form_leaves_the_card(self):
-        self.velto.item.choose("Settings…")
-        wait_for(lambda: self.velto.other_windows, what="the form")
+        self.open_form()
 
         self.desktop.key("Escape")
 
@@ -49,15 +68,87 @@ class XWayland(unittest.TestCase):
         wait_for(self.hidden, what="the hidden card")
 
     def test_form_and_card_go_together_and_come_back_together(self):
-        self.velto.item.choose("Settings…")
-        wait_for(lambda: self.velto.other_windows, what="the form")
-        x, y, width, height = self.other.rectangle
-        self.desktop.click(x + 5, y + height - 5)
+        self.open_form()
+        self.click_other()
         wait_for(lambda: self.hidden() and not self.velto.other_windows, what="hidden card and form")
 
         self.desktop.click_item()
 
         wait_for(lambda: self.velto.card_is_visible and self.velto.other_windows, what="card and form")
+
+    def test_starting_it_again_brings_the_card_with_the_keyboard(self):
+        self.desktop.key("Escape")
+        wait_for(lambda: self.hidden() and self.other.has_state("focused"), what="the keyboard in the other window")
+
+        self.desktop.run(self.desktop.program, environment=WAYLAND).wait(30)
+
+        wait_for(lambda: self.velto.card.find("push button", "Start").has_state("focused"), what="the card's keyboard")
+        wait_for(lambda: not self.other.has_state("focused"), what="the keyboard gone from the other window")
+        self.desktop.key("Return")
+        wait_for(lambda: self.velto.controls == ["Pause", "Reset"], what="the started timer")
+
+    def test_the_list_of_a_picker_leaves_form_and_card(self):
+        self.open_form()
+        picker = self.velto.app.find_all("combo box")[0]
+        self.desktop.click(*picker.middle)
+        wait_for(lambda: picker.find_all("list item", "Pop"), what="the list")
+
+        holds(lambda: self.velto.card_is_visible and self.velto.app.find_all("push button", "Apply"), 1,
+              "card and form under the list")
+        self.desktop.key("Escape")
+        holds(lambda: self.velto.card_is_visible and self.velto.app.find_all("push button", "Apply"), 1,
+              "card and form without the list")
+
+    def test_the_menu_of_the_card_leaves_it(self):
+        self.desktop.key("shift+F10")
+        wait_for(self.menu_is_open, what="the menu")
+
+        holds(lambda: self.velto.card_is_visible, 1, "the card under the menu")
+        self.desktop.key("Escape")
+        wait_for(lambda: not self.menu_is_open(), what="no menu")
+        holds(lambda: self.velto.card_is_visible, 1, "the card without the menu")
+        self.desktop.key("Escape")
+        wait_for(self.hidden, what="the hidden card")
+
+    def test_a_window_of_its_own_leaves_the_card_and_another_hides_it(self):
+        self.velto.item.choose("How to Use")
+        wait_for(lambda: self.velto.other_windows, what="the help window")
+        holds(lambda: self.velto.card_is_visible, 1, "the card beside the help window")
+
+        self.click_other()
+
+        wait_for(self.hidden, what="the hidden card")
+
+
+class XWaylandWithoutAPanelBar(Story):
+    host = "none"
+
+    def strip(self):
+        for window in self.velto.other_windows:
+            for button in window.find_all("push button"):
+                if button.name == self.velto.item.label:
+                    return button
+        raise LookupError("no strip")
+
+    def test_the_strip_leaves_the_card_and_toggles_it(self):
+        x, y = wait_for(self.strip, what="the strip").middle
+        holds(lambda: self.velto.card_is_visible, 1, "the card beside the strip")
+        for _ in range(3):
+            self.desktop.click(x, y)
+            wait_for(self.hidden, what="the hidden card")
+            holds(self.hidden, 0.5, "a hidden card")
+            self.desktop.click(x, y)
+            wait_for(lambda: self.velto.card_is_visible, what="the card")
+
+    def test_the_menu_of_the_strip_leaves_the_card(self):
+        x, y = wait_for(self.strip, what="the strip").middle
+        self.desktop.click(x, y, 3)
+        wait_for(self.menu_is_open, what="the menu")
+
+        holds(lambda: self.velto.card_is_visible, 1, "the card beside the menu")
+        self.desktop.key("Escape")
+        wait_for(lambda: not self.menu_is_open(), what="no menu")
+        holds(lambda: self.velto.card_is_visible, 1, "the card")
 
 
 if __name__ == "__main__":

@@ -330,6 +330,27 @@ TEST(TakingPanelTest, WhereItTakesTheKeyboardLosingItAsksForItsEnd)
     EXPECT_TRUE(eventually([&] { return dismissals == 2; }));
 }
 
+TEST(TakingPanelTest, ShownAgainItLeavesTheKeyboardToTheSheetOnIt)
+{
+    Desktop::current().startWindowManager("openbox");
+    FloatingWindow card{std::make_unique<QPushButton>(QStringLiteral("Start")), [] {}, FloatingWindow::Focus::taken};
+    card.setGeometry(place);
+    card.orderFront();
+    ASSERT_TRUE(eventually([&] { return QGuiApplication::focusWindow() == card.windowHandle(); }));
+    auto* field = new QLineEdit;
+    FloatingWindow sheet{std::unique_ptr<QWidget>{field}, [] {}, FloatingWindow::Focus::taken, &card};
+    sheet.setGeometry(place);
+    sheet.show();
+    sheet.takeKeyboard();
+    ASSERT_TRUE(eventually([&] { return QGuiApplication::focusWindow() == sheet.windowHandle(); }));
+
+    card.orderFront();
+
+    EXPECT_TRUE(stays([&] { return QGuiApplication::focusWindow() == sheet.windowHandle(); }));
+    ASSERT_TRUE(Desktop::run("xdotool", {"type", "25"}));
+    EXPECT_TRUE(eventually([&] { return field->text() == "25"; })) << field->text().toStdString();
+}
+
 TEST_F(QtPanelWindowTest, WithoutACompositingManagerItIsOpaqueAndCutToItsShape)
 {
     surface->setStyleSheet(QStringLiteral("QWidget { background: #c02020; }"));
