@@ -74,10 +74,15 @@ void FloatingWindow::setCorners(double radius, ColorName edge)
 
 void FloatingWindow::orderFront()
 {
+    auto* used = isVisible() ? shownSheet() : nullptr;
+    if (used && QGuiApplication::focusWindow() != used->windowHandle())
+        used = nullptr;
     show();
     raise();
     if (m_focus != Focus::taken)
         return;
+    if (used)
+        return used->claimFocus(); // Some window managers give a window that is raised the keyboard.
     auto& top = shownSheet() ? *shownSheet() : *this;
     top.activateWindow();
     top.activateWidgets();

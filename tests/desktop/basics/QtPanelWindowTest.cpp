@@ -4,6 +4,8 @@
 #include "Desktop.h"
 #include "OtherWindow.h"
 #include "desktop/FlippedGeometry.h"
+#include "desktop/QtScreens.h"
+#include "desktop/SheetWindow.h"
 #include "desktop/X11Desktop.h"
 
 #include <gtest/gtest.h>
@@ -338,8 +340,8 @@ TEST(TakingPanelTest, ShownAgainItLeavesTheKeyboardToTheSheetOnIt)
     card.orderFront();
     ASSERT_TRUE(eventually([&] { return QGuiApplication::focusWindow() == card.windowHandle(); }));
     auto* field = new QLineEdit;
-    FloatingWindow sheet{std::unique_ptr<QWidget>{field}, [] {}, FloatingWindow::Focus::taken, &card};
-    sheet.setGeometry(place);
+    QtScreens screens;
+    SheetWindow sheet{std::unique_ptr<QWidget>{field}, card, screens, [] {}, FloatingWindow::Focus::taken};
     sheet.show();
     sheet.takeKeyboard();
     ASSERT_TRUE(eventually([&] { return QGuiApplication::focusWindow() == sheet.windowHandle(); }));
