@@ -15,9 +15,10 @@ public:
     using Focus = FloatingWindow::Focus;
 
     struct Handlers {
-        std::function<void()>
-            dismiss; ///< For Escape, unless the content has used it, and for the loss of a taken focus.
-        std::function<void()> openMenu; ///< For the menu key and Shift+F10.
+        /// For Escape, unless the content has used it, and for the loss of a taken focus.
+        std::function<void()> dismiss;
+        /// For the menu key and Shift+F10.
+        std::function<void()> openMenu;
     };
 
     QtPanelWindow(std::unique_ptr<QWidget> content, Handlers handlers, Focus focus = Focus::leftAlone);

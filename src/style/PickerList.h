@@ -18,6 +18,7 @@ public:
     /// Becomes the list of `picker`, which owns it.
     explicit PickerList(QComboBox& picker);
 
+protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
