@@ -2,6 +2,7 @@
 """The panel bars that a virtual desktop can have."""
 import os
 import re
+import subprocess
 
 _HERE = os.path.dirname(os.path.abspath(__file__))
 
@@ -96,8 +97,11 @@ def _windows(desktop, wm_class):
     pattern = re.compile(rf'(0x\w+) .*\("{re.escape(wm_class)}" .*\)  (\d+)x(\d+)\+-?\d+\+-?\d+  \+(-?\d+)\+(-?\d+)')
     for match in pattern.finditer(desktop.ask("xwininfo", "-root", "-tree")):
         width, height, x, y = map(int, match.groups()[1:])
-        if width > 16 and height > 16 and "IsViewable" in desktop.ask("xwininfo", "-id", match[1]):
-            yield x, y, width, height
+        try:
+            if width > 16 and height > 16 and "IsViewable" in desktop.ask("xwininfo", "-id", match[1]):
+                yield x, y, width, height
+        except subprocess.CalledProcessError:
+            pass  # it has gone meanwhile
 
 
 class XfcePanel:
