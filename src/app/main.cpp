@@ -105,8 +105,9 @@ int run(QApplication& application)
             [&](PomodoroTimer& timer, AppSettings& settings, Size size) {
                 return std::make_unique<QtPanelWindow>(
                     std::make_unique<PanelContainerView>(timer, settings, size, runLoop, bundle, makeSettingsSheet),
-                    QtPanelWindow::Handlers{
-                        .dismiss = hidePanel, .openMenu = [&controller] { controller->openMenu(); }},
+                    QtPanelWindow::Handlers{.dismiss = hidePanel,
+                        .openMenu = [&controller] { controller->openMenu(); },
+                        .isAskedFor = [&] { return desktopApplication.currentEvent().has_value(); }},
                     focus);
             },
         .makeHelpWindow = [&] { return makeHelpWindow(screens); },

@@ -48,7 +48,7 @@ FloatingWindow::FloatingWindow(
     m_focus(focus)
 {
     setAttribute(Qt::WA_TranslucentBackground);
-    setAttribute(Qt::WA_ShowWithoutActivating, focus != Focus::taken);
+    setAttribute(Qt::WA_ShowWithoutActivating);
     setWindowTitle(QApplication::applicationDisplayName());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
@@ -72,7 +72,7 @@ void FloatingWindow::setCorners(double radius, ColorName edge)
     followShape();
 }
 
-void FloatingWindow::orderFront()
+void FloatingWindow::orderFront(bool isAskedFor)
 {
     auto* used = isVisible() ? shownSheet() : nullptr;
     if (used && QGuiApplication::focusWindow() != used->windowHandle())
@@ -83,6 +83,8 @@ void FloatingWindow::orderFront()
         return;
     if (used)
         return used->claimFocus(); // Some window managers give a window that is raised the keyboard.
+    if (!isAskedFor)
+        return;
     auto& top = shownSheet() ? *shownSheet() : *this;
     top.activateWindow();
     top.activateWidgets();

@@ -20,7 +20,7 @@ class FloatingWindow : public QWidget, public QAbstractNativeEventFilter {
     Q_OBJECT
 
 public:
-    /// When it has the keyboard without `takeKeyboard()`. Showing it takes it from nobody, but for `taken`.
+    /// When it has the keyboard without `takeKeyboard()`. Showing it by itself takes it from nobody.
     enum class Focus {
         leftAlone, ///< While a text field of the content is being edited.
         whenUsed,  ///< From the use of a control of the content to a press beside the controls.
@@ -35,7 +35,8 @@ public:
     /// The corners of the content and the colour of its edge, unless they are those of a card. Pixels that the
     /// edge covers in part get its colour where they can't be translucent.
     void setCorners(double radius, ColorName edge);
-    void orderFront();
+    /// `isAskedFor`: the user wants to see it now; else it is shown by itself.
+    void orderFront(bool isAskedFor);
 
     /// Fetches the keyboard for the content's first control, or for the one that had it last; with another
     /// floating window on this one, for that. It goes back as it does after use. No effect while hidden.

@@ -8,6 +8,7 @@
 namespace velto {
 
 QtPanelWindow::QtPanelWindow(std::unique_ptr<QWidget> content, Handlers handlers, Focus focus) :
+    m_isAskedFor(std::move(handlers.isAskedFor)),
     m_window(std::make_unique<FloatingWindow>(std::move(content), std::move(handlers.dismiss), focus))
 {
     QObject::connect(m_window.get(), &FloatingWindow::menuRequested, std::move(handlers.openMenu));
@@ -32,7 +33,7 @@ void QtPanelWindow::setFrame(const Rect& frame)
 
 void QtPanelWindow::orderFrontRegardless()
 {
-    m_window->orderFront();
+    m_window->orderFront(m_isAskedFor());
 }
 
 void QtPanelWindow::orderOut()

@@ -19,6 +19,8 @@ public:
         std::function<void()> dismiss;
         /// For the menu key and Shift+F10.
         std::function<void()> openMenu;
+        /// Whether it is shown for a click of the user.
+        std::function<bool()> isAskedFor = [] { return false; };
     };
 
     QtPanelWindow(std::unique_ptr<QWidget> content, Handlers handlers, Focus focus = Focus::leftAlone);
@@ -32,6 +34,7 @@ public:
     void makeKey() override;
 
 private:
+    std::function<bool()> m_isAskedFor;
     std::unique_ptr<FloatingWindow> m_window;
 };
 

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""In a session of Wayland presses beside the card cannot be seen. So the card takes the keyboard, and goes when it
-loses it."""
+"""In a session of Wayland presses beside the card cannot be seen. So the card takes the keyboard when it is asked for,
+and goes when it loses it."""
 import unittest
 
 from desktop import VirtualDesktop, holds, wait_for
@@ -17,6 +17,9 @@ class Story(unittest.TestCase):
         self.other = self.desktop.open_window("other")
         self.velto = self.desktop.start_velto({}, environment=WAYLAND)
         wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
+        self.velto.item.activate()
+        wait_for(self.hidden, what="the hidden card")
+        self.velto.item.activate()
         wait_for(lambda: not self.other.has_state("focused"), what="the card with the keyboard")
 
     def hidden(self):
@@ -36,8 +39,23 @@ class Story(unittest.TestCase):
         return bool(self.velto.app.find_all("menu item", "Quit"))
 
 
-class XWayland(Story):
+class ByItself(unittest.TestCase):
+    def test_the_card_leaves_the_keyboard_where_it_is(self):
+        desktop = self.enterContext(VirtualDesktop())
+        other = desktop.open_window("other")
+        velto = desktop.start_velto({"focusMinutes": 0}, environment=WAYLAND)
+        wait_for(lambda: velto.card_is_visible, what="the card, shown at launch")
+        holds(lambda: other.has_state("focused"), 1, "the keyboard of the other window")
+        velto.item.choose("Start Focus")
+        desktop.click(5, desktop.size[1] - 5)
+        wait_for(lambda: not velto.card_is_visible, what="the hidden card")
 
+        wait_for(lambda: velto.card_is_visible, what="the card at the end of the phase")
+
+        holds(lambda: other.has_state("focused"), 1, "the keyboard of the other window")
+
+
+class XWayland(Story):
     def test_escape_hides_the_card_and_the_other_window_has_the_keyboard_again(self):
         self.desktop.key("Escape")
 

@@ -314,15 +314,22 @@ TEST_F(QtPanelWindowTest, AKeyboardTakenElsewhereMeanwhileIsNotTakenBack)
     EXPECT_TRUE(stays([&] { return first->hasKeyboard(); }));
 }
 
-TEST(TakingPanelTest, WhereItTakesTheKeyboardLosingItAsksForItsEnd)
+TEST(TakingPanelTest, AskedForItTakesTheKeyboardAndLosingItAsksForItsEnd)
 {
     Desktop::current().startWindowManager();
     const auto other = focusedWindow();
     int dismissals = 0;
+    bool isAskedFor = false;
     QtPanelWindow panel{std::make_unique<QPushButton>(QStringLiteral("Start")),
-        QtPanelWindow::Handlers{.dismiss = [&] { ++dismissals; }, .openMenu = [] {}}, QtPanelWindow::Focus::taken};
+        QtPanelWindow::Handlers{
+            .dismiss = [&] { ++dismissals; }, .openMenu = [] {}, .isAskedFor = [&] { return isAskedFor; }},
+        QtPanelWindow::Focus::taken};
     panel.setFrame(rectFromQt(place));
 
+    panel.orderFrontRegardless();
+    EXPECT_TRUE(stays([&] { return other->hasKeyboard(); }));
+
+    isAskedFor = true;
     panel.orderFrontRegardless();
     ASSERT_TRUE(eventually([] { return QApplication::activeWindow() != nullptr; }));
     ASSERT_TRUE(Desktop::run("xdotool", {"key", "Escape"}));
@@ -337,7 +344,7 @@ TEST(TakingPanelTest, ShownAgainItLeavesTheKeyboardToTheSheetOnIt)
     Desktop::current().startWindowManager("openbox");
     FloatingWindow card{std::make_unique<QPushButton>(QStringLiteral("Start")), [] {}, FloatingWindow::Focus::taken};
     card.setGeometry(place);
-    card.orderFront();
+    card.orderFront(true);
     ASSERT_TRUE(eventually([&] { return QGuiApplication::focusWindow() == card.windowHandle(); }));
     auto* field = new QLineEdit;
     QtScreens screens;
@@ -346,7 +353,7 @@ TEST(TakingPanelTest, ShownAgainItLeavesTheKeyboardToTheSheetOnIt)
     sheet.takeKeyboard();
     ASSERT_TRUE(eventually([&] { return QGuiApplication::focusWindow() == sheet.windowHandle(); }));
 
-    card.orderFront();
+    card.orderFront(true);
 
     EXPECT_TRUE(stays([&] { return QGuiApplication::focusWindow() == sheet.windowHandle(); }));
     ASSERT_TRUE(Desktop::run("xdotool", {"type", "25"}));
