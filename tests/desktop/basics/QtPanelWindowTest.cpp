@@ -103,6 +103,12 @@ protected:
     int menus = 0;
 };
 
+/// Not every window manager gives a window the keyboard unasked: this one lies at (200, 200).
+bool getsKeyboard(const OtherWindow& window)
+{
+    return eventually([&] { return window.hasKeyboard() || (Desktop::click(200, 200) && window.hasKeyboard()); });
+}
+
 /// A window of another program that has the keyboard.
 std::unique_ptr<OtherWindow> focusedWindow()
 {
@@ -110,9 +116,7 @@ std::unique_ptr<OtherWindow> focusedWindow()
     window->show();
     if (!x11::hasWindowManager())
         x11::focus(window->id());
-    // Not every window manager gives a window the keyboard unasked.
-    EXPECT_TRUE(
-        eventually([&] { return window->hasKeyboard() || (Desktop::click(200, 200) && window->hasKeyboard()); }));
+    EXPECT_TRUE(getsKeyboard(*window));
     return window;
 }
 
@@ -178,7 +182,7 @@ TEST_F(QtPanelWindowTest, ItLiesAboveFullScreenWindows)
     OtherWindow film{{0, 0, 800, 600}};
     film.setFullScreen();
     film.show();
-    ASSERT_TRUE(eventually([&] { return film.hasKeyboard(); }));
+    ASSERT_TRUE(getsKeyboard(film));
 
     show();
 
