@@ -114,10 +114,8 @@ void FloatingWindow::setVisible(bool visible)
     // A window manager forgets what a hidden window was.
     if (visible && !isVisible() && x11::connection())
         announceState();
-    if (!visible && m_focus == Focus::taken)
-        leaveFocusToParent();
     if (!visible)
-        setAcceptsFocus(false);
+        m_focus == Focus::taken ? leaveFocusToParent() : setAcceptsFocus(false);
     QWidget::setVisible(visible);
 }
 

@@ -24,8 +24,8 @@ public:
     enum class Focus {
         leftAlone, ///< While a text field of the content is being edited.
         whenUsed,  ///< From the use of a control of the content to a press beside the controls.
-        taken,     ///< By showing. Losing it to another program dismisses the window: for desktops where presses
-                   ///< elsewhere can't be seen.
+        taken,     ///< When it is asked for. Losing it to another program dismisses the window: for desktops where
+                   ///< presses elsewhere can't be seen.
     };
 
     /// `dismiss` runs for Escape, unless the content has used it, and for the loss of a taken focus.

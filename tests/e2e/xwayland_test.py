@@ -141,15 +141,8 @@ class XWayland(Story):
 class XWaylandWithoutAPanelBar(Story):
     host = "none"
 
-    def strip(self):
-        for window in self.velto.other_windows:
-            for button in window.find_all("push button"):
-                if button.name == self.velto.item.label:
-                    return button
-        raise LookupError("no strip")
-
     def test_the_strip_leaves_the_card_and_toggles_it(self):
-        x, y = wait_for(self.strip, what="the strip").middle
+        x, y = wait_for(lambda: self.velto.strip, what="the strip").middle
         holds(lambda: self.velto.card_is_visible, 1, "the card beside the strip")
         for _ in range(3):
             self.desktop.click(x, y)
@@ -159,7 +152,7 @@ class XWaylandWithoutAPanelBar(Story):
             wait_for(lambda: self.velto.card_is_visible, what="the card")
 
     def test_the_menu_of_the_strip_leaves_the_card(self):
-        x, y = wait_for(self.strip, what="the strip").middle
+        x, y = wait_for(lambda: self.velto.strip, what="the strip").middle
         self.desktop.click(x, y, 3)
         wait_for(self.menu_is_open, what="the menu")
 

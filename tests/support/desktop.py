@@ -140,6 +140,15 @@ class Velto:
         card = self.card if self.card_is_visible else None
         return [window for window in self.app.children if window.showing and window != card]
 
+    @property
+    def strip(self):
+        """The strip's button with the time. LookupError while there is a panel bar."""
+        for window in self.other_windows:
+            for button in window.find_all("push button"):
+                if button.name == self.item.label:
+                    return button
+        raise LookupError("no strip")
+
     def press(self, name):
         """Presses a button of the card, without the mouse."""
         wait_for(lambda: self.card.find("push button", name), what=f"a button {name!r}").press()

@@ -13,18 +13,10 @@ class TheStrip(unittest.TestCase):
         self.desktop = self.enterContext(VirtualDesktop(host="none"))
         self.velto = self.desktop.start_velto({"breakMinutes": 10})
         wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
-        wait_for(self.strip, what="the strip")
-
-    def strip(self):
-        """The button with the time. LookupError without one."""
-        for window in self.velto.other_windows:
-            for button in window.find_all("push button"):
-                if button.name == self.velto.item.label:
-                    return button
-        raise LookupError("no strip")
+        wait_for(lambda: self.velto.strip, what="the strip")
 
     def click(self, button=1, modifiers=()):
-        self.desktop.click(*self.strip().middle, button, modifiers)
+        self.desktop.click(*self.velto.strip.middle, button, modifiers)
 
     def entry(self, name):
         for role in MENU_ROLES:
@@ -42,7 +34,7 @@ class TheStrip(unittest.TestCase):
         field = self.desktop.open_window("other")
         focused = self.desktop.focused_window
 
-        x, y, width, _ = self.strip().rectangle
+        x, y, width, _ = self.velto.strip.rectangle
         self.assertEqual((x + width, y), (1280 - 6, 6))
         self.click()
         wait_for(lambda: not self.velto.card_is_visible)
@@ -52,7 +44,7 @@ class TheStrip(unittest.TestCase):
         self.assertEqual(self.desktop.focused_window, focused)
 
     def test_it_is_above_others_on_every_workspace_and_in_no_task_bar(self):
-        x, y, _, _ = self.strip().rectangle
+        x, y, _, _ = self.velto.strip.rectangle
         for window in self.desktop.ask("xdotool", "search", "--onlyvisible", "--class", "org.velto.Velto").split():
             if f"Absolute upper-left X:  {x}\n  Absolute upper-left Y:  {y}\n" in self.desktop.ask(
                     "xwininfo", "-id", window):
@@ -66,7 +58,7 @@ class TheStrip(unittest.TestCase):
     def test_the_desktop_is_seen_beside_its_corners_with_and_without_a_compositor(self):
         def corner_is_the_desktop():
             picture = self.desktop.picture()
-            x, y, _, _ = self.strip().rectangle
+            x, y, _, _ = self.velto.strip.rectangle
             return (picture[x, y] == picture[x - 1, y] and picture[x, y + 8] != picture[x - 1, y + 8])
 
         wait_for(corner_is_the_desktop)
@@ -89,7 +81,7 @@ class TheStrip(unittest.TestCase):
         self.click()
         wait_for(lambda: self.velto.card_is_visible)
 
-        _, y, _, height = self.strip().rectangle
+        _, y, _, height = self.velto.strip.rectangle
         left, top, width, _ = self.velto.card.rectangle
         self.assertEqual((left + width, top), (1280, y + height + 6))
 
@@ -150,14 +142,14 @@ class TheStrip(unittest.TestCase):
         self.velto.press("Start")
 
         for second in ("24:59", "24:58", "24:57"):
-            wait_for(lambda: self.strip().name == second)
+            wait_for(lambda: self.velto.strip.name == second)
 
     def test_without_a_host_nothing_is_said_on_the_bus(self):
         self.velto.press("Start")
-        wait_for(lambda: self.strip().name < "24:59")
+        wait_for(lambda: self.velto.strip.name < "24:59")
 
         self.assertEqual(messages_in(self.desktop, self.velto.item.bus_name, 3), [])
-        self.assertLess(self.strip().name, "24:58")
+        self.assertLess(self.velto.strip.name, "24:58")
 
 
 if __name__ == "__main__":
