@@ -23,9 +23,6 @@ class PomodoroTimer;
 class RunLoop;
 class TimerPanelController;
 
-/// Posted to have the settings form opened in the panel; no object.
-inline constexpr auto statusBarShowSettings = "StatusBarShowSettings";
-
 /// The program's presence in the panel bar: the time as the status item's title, its clicks, its menu.
 ///
 /// Nothing about the menu is remembered: every refresh recomputes it from the timer and the

@@ -3,11 +3,11 @@
 
 #include "core/PomodoroTimer.h"
 #include "core/TimeText.h"
-#include "menubar/StatusBarController.h"
 #include "observation/NotificationCenter.h"
 #include "panel/CircularProgressView.h"
 #include "panel/PhaseTitle.h"
 #include "panel/RollingTime.h"
+#include "panel/TimerPanelController.h"
 #include "platform/Bundle.h"
 #include "style/Button.h"
 #include "style/Stack.h"

@@ -17,6 +17,9 @@ class PomodoroTimer;
 class Screens;
 class StatusItemButton;
 
+/// Posted to have the settings form opened in the panel; no object.
+inline constexpr auto statusBarShowSettings = "StatusBarShowSettings";
+
 /// Where the panel stands on a screen. Points, origin bottom left.
 ///
 /// `button` is the status item's rectangle on that screen; without one the panel hangs at the top

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/PropertyList.h"
+#include "desktop/storage/PropertyList.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "style/Appearance.h"
+#include "desktop/session/Appearance.h"
 #include "style/Button.h"
 #include "style/PopUpPicker.h"
 #include "style/Slider.h"

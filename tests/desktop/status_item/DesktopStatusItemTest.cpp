@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/DesktopStatusItem.h"
-#include "BusClient.h"
+#include "desktop/status_item/DesktopStatusItem.h"
 #include "FakeWatcher.h"
-#include "desktop/DBusPicture.h"
-#include "desktop/StripWindow.h"
-#include "panel/ClickGesture.h"
+#include "desktop/status_item/ClickGesture.h"
+#include "desktop/status_item/DBusPicture.h"
+#include "desktop/status_item/StripWindow.h"
+#include "fixtures/BusClient.h"
 #include "support/FakeRunLoop.h"
 
 #include <gtest/gtest.h>

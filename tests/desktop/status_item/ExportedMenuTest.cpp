@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "BusClient.h"
 #include "app/VeltoApp.h"
-#include "desktop/DBusMenuTypes.h"
-#include "desktop/DesktopStatusItem.h"
-#include "panel/ClickGesture.h"
+#include "desktop/menus/DBusMenuTypes.h"
+#include "desktop/status_item/ClickGesture.h"
+#include "desktop/status_item/DesktopStatusItem.h"
+#include "fixtures/BusClient.h"
 #include "support/FakePlatform.h"
 
 #include <gtest/gtest.h>

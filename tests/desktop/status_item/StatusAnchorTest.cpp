@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/StatusAnchor.h"
+#include "desktop/status_item/StatusAnchor.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/StatusHost.h"
+#include "desktop/status_item/StatusHost.h"
 
 #include <gtest/gtest.h>
 

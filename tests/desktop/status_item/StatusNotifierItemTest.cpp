@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/StatusNotifierItem.h"
-#include "BusClient.h"
+#include "desktop/status_item/StatusNotifierItem.h"
 #include "FakeWatcher.h"
+#include "fixtures/BusClient.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/StatusPicture.h"
-#include "desktop/DBusPicture.h"
+#include "desktop/status_item/StatusPicture.h"
+#include "desktop/status_item/DBusPicture.h"
 
 #include <gtest/gtest.h>
 

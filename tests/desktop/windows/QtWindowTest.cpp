@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/QtWindow.h"
+#include "desktop/windows/QtWindow.h"
 
-#include "desktop/QtScreens.h"
+#include "desktop/windows/QtScreens.h"
 
 #include <QDialog>
 #include <QGuiApplication>

@@ -15,7 +15,7 @@ from waiting import wait_for
 
 RATE = 48000
 BUILD = os.environ["VELTO_BUILD"]
-MATERIAL = os.path.join(BUILD, "tests/desktop/audio/material")
+MATERIAL = os.path.join(BUILD, "tests/desktop/sound/material")
 TONE, TONE_AMPLITUDE = 440, 0.5
 # What the program needs to know of this place.
 ENVIRONMENT = {"GST_REGISTRY": f"{MATERIAL}/gst-registry.bin", "SSL_CERT_FILE": f"{MATERIAL}/authority.pem"}

@@ -1,8 +1,0 @@
-// SPDX-License-Identifier: MIT
-#include "desktop/AudioLog.h"
-
-namespace velto {
-
-Q_LOGGING_CATEGORY(audioLog, "velto.audio", QtFatalMsg)
-
-} // namespace velto

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/menus/PopUpMenu.h"
+
+#include "desktop/menus/AccessibleApplication.h"
+#include "desktop/menus/MenuText.h"
+#include "desktop/x11/X11Desktop.h"
+#include "style/Symbols.h"
+
+#include <QAction>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QScreen>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace velto {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+void apply(QAction& action, const MenuItem& item)
+{
+    action.setVisible(!item.isHidden);
+    if (item.isSeparator)
+        return;
+    action.setText(menuText(item.title).replace(QLatin1Char('&'), QLatin1String("&&")));
+    action.setEnabled(item.isEnabled);
+    action.setCheckable(item.isCheckable || item.isOn);
+    action.setChecked(item.isOn);
+}
+
+QPoint placeMenu(const QSize& size, const QRect& anchor)
+{
+    const auto* screen = QGuiApplication::screenAt(anchor.center());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    const auto usable = screen ? screen->availableGeometry() : QRect(QPoint(), size);
+    const int below = anchor.bottom() + 1;
+    const int y = below + size.height() <= usable.bottom() + 1 ? below : anchor.top() - size.height();
+    const int x = std::min(anchor.left(), usable.right() + 1 - size.width());
+    return {std::max(x, usable.left()), std::max(y, usable.top())};
+}
+
+} // namespace
+
+PopUpMenu::PopUpMenu(Handlers handlers) : m_handlers(std::move(handlers))
+{
+    AccessibleApplication::install();
+    m_refresh.setSingleShot(true);
+    m_refresh.setInterval(0);
+    connect(&m_refresh, &QTimer::timeout, this, &PopUpMenu::refresh);
+    m_awaitRelease.setInterval(10ms);
+    connect(&m_awaitRelease, &QTimer::timeout, this, [this] {
+        if (!x11::mouseIsPressed())
+            show();
+    });
+}
+
+PopUpMenu::~PopUpMenu() = default;
+
+void PopUpMenu::menuDidChange()
+{
+    if (isOpen())
+        m_refresh.start();
+}
+
+void PopUpMenu::popUp(const QRect& anchor)
+{
+    if (isOpen() || !m_menu)
+        return;
+    m_anchor = anchor;
+    if (x11::mouseIsPressed())
+        m_awaitRelease.start();
+    else
+        show();
+}
+
+void PopUpMenu::show()
+{
+    m_awaitRelease.stop();
+    if (m_menu->willOpen)
+        m_menu->willOpen();
+    m_shown = std::make_unique<QMenu>();
+    fill(*m_shown, *m_menu);
+    connect(m_shown.get(), &QMenu::aboutToHide, this, &PopUpMenu::dismiss);
+    m_handlers.opened();
+    m_shown->popup(placeMenu(m_shown->sizeHint(), m_anchor));
+}
+
+void PopUpMenu::fill(QMenu& shown, const Menu& menu)
+{
+    for (const auto& item : menu.items) {
+        QAction* action = nullptr;
+        if (item->submenu) {
+            auto* submenu = new QMenu(&shown);
+            fill(*submenu, *item->submenu);
+            action = shown.addMenu(submenu);
+        } else {
+            action = shown.addAction(QString());
+            action->setSeparator(item->isSeparator);
+            connect(action, &QAction::triggered, this, [this, item] { chosen(item); });
+        }
+        if (item->symbol)
+            action->setIcon(
+                symbolIcon(QString::fromStdString(item->symbol->name), shown.palette().color(QPalette::Text)));
+        apply(*action, *item);
+        m_entries.push_back({item, action});
+    }
+}
+
+void PopUpMenu::refresh()
+{
+    for (const auto& entry : m_entries)
+        apply(*entry.action, *entry.item);
+}
+
+void PopUpMenu::chosen(const std::shared_ptr<MenuItem>& item)
+{
+    // Chosen by assistive technology, it is still open.
+    if (m_shown)
+        m_shown->close();
+    // Later: the menu is still on its way out.
+    QTimer::singleShot(0, this, [item] {
+        if (item->action)
+            item->action(*item);
+    });
+}
+
+void PopUpMenu::dismiss()
+{
+    if (!m_shown)
+        return;
+    m_refresh.stop();
+    m_entries.clear();
+    m_shown.release()->deleteLater();
+    m_handlers.closed();
+}
+
+} // namespace velto

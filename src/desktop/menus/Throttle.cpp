@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/menus/Throttle.h"
+
+#include <chrono>
+#include <utility>
+
+namespace velto {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int mostRuns = 10; ///< Between two ticks.
+
+} // namespace
+
+Throttle::Throttle()
+{
+    m_timer.setInterval(10ms);
+    m_timer.callOnTimeout([this] { runWaiting(); });
+}
+
+void Throttle::run(std::function<void()> work)
+{
+    if (!m_timer.isActive())
+        m_timer.start();
+    if (m_runs == mostRuns) {
+        m_waiting.push_back(std::move(work));
+        return;
+    }
+    ++m_runs;
+    work();
+}
+
+void Throttle::runWaiting()
+{
+    for (m_runs = 0; m_runs < mostRuns && !m_waiting.empty(); ++m_runs) {
+        const auto work = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        work();
+    }
+    if (m_runs == 0)
+        m_timer.stop();
+}
+
+} // namespace velto

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/sound/BackgroundThreads.h"
+#include "platform/SoundLibrary.h"
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <set>
+#include <string>
+
+namespace velto {
+
+/// The alert sounds of a folder, one "<name>.wav" each, played through the desktop's sound server
+/// in the role of events.
+///
+/// The server is not spoken to before the first sound, and then only from a thread of its own. A
+/// sound that could not be started within half a second is dropped: late, it would mean nothing.
+class CanberraSoundLibrary final : public SoundLibrary {
+public:
+    /// Where the program's own sounds stand, seen from the folder of its executable.
+    [[nodiscard]] static std::filesystem::path folderOf(const std::filesystem::path& executableFolder);
+
+    explicit CanberraSoundLibrary(std::filesystem::path folder);
+    ~CanberraSoundLibrary() override;
+
+    [[nodiscard]] std::unique_ptr<Sound> soundNamed(std::string_view name) override;
+
+private:
+    class Player;
+
+    std::filesystem::path m_folder;
+    std::set<std::string, std::less<>> m_names;
+    BackgroundThreads m_threads;
+    std::shared_ptr<Player> m_player;
+};
+
+} // namespace velto

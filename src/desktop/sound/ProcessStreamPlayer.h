@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/sound/RetryDelay.h"
+#include "observation/Subscription.h"
+#include "platform/StreamPlayer.h"
+
+#include <chrono>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+class QProcess;
+
+namespace velto {
+
+class RunLoop;
+
+/// Plays a web stream by a program of its own, so that nothing that comes from the web is looked at in this one.
+///
+/// A run of that program is one attempt: it ends when the stream does, and for as long as this plays another one
+/// follows. It is killed to stop it, which takes no time and leaves nothing.
+class ProcessStreamPlayer final : public StreamPlayer {
+public:
+    /// `program` plays one stream, see stream/main.cpp. `runLoop` must outlive this.
+    ProcessStreamPlayer(std::string url, std::filesystem::path program, RunLoop& runLoop);
+    ~ProcessStreamPlayer() override;
+
+    void setVolume(float volume) override;
+    /// A live stream is never resumed: each call opens it anew.
+    void play() override;
+    void pause() override;
+
+private:
+    /// Kills the process and lets go of it, without waiting for its end.
+    struct Killer {
+        void operator()(QProcess* process) const;
+    };
+
+    void open();
+    void onEnd();
+
+    const std::string m_url;
+    const std::filesystem::path m_program;
+    RunLoop& m_runLoop;
+    float m_volume = 1;
+    std::unique_ptr<QProcess, Killer> m_process;    ///< Null while no attempt is under way.
+    std::chrono::steady_clock::time_point m_opened; ///< Of that attempt.
+    RetryDelay m_retryDelay;
+    Subscription m_retry; ///< Between two attempts.
+};
+
+} // namespace velto

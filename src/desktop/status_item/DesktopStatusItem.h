@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/menus/DBusMenu.h"
+#include "desktop/menus/PopUpMenu.h"
+#include "desktop/status_item/StatusHostMonitor.h"
+#include "desktop/status_item/StatusNotifierItem.h"
+#include "platform/StatusItem.h"
+
+#include <QDBusConnection>
+#include <QFont>
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace velto {
+
+class ClickGesture;
+class StripWindow;
+
+/// The program's status item on whatever this desktop has: an entry in its panel bar, in the form that
+/// the bar can show, or else a small window.
+///
+/// The window comes when there has been no host for two seconds and goes when there is one. Silent and
+/// idle while nothing changes. Main thread only.
+class DesktopStatusItem final : public QObject, public StatusItem, private StatusItemButton {
+    Q_OBJECT
+
+public:
+    /// Runs the given work with the click as the application's current event.
+    using Dispatcher = std::function<void(ClickEvent, const std::function<void()>&)>;
+
+    /// `gesture` must outlive this. `bus` is used by this item alone.
+    DesktopStatusItem(ClickGesture& gesture, Dispatcher dispatch,
+        QDBusConnection bus
+        = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("status item")));
+    ~DesktopStatusItem() override;
+
+    [[nodiscard]] StatusItemButton* button() override { return this; }
+    void setMenu(std::shared_ptr<Menu> menu) override;
+    void menuDidChange() override;
+    void popUpMenu() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void setFont(double points, FontWeight weight) override;
+    void setToolTip(const std::string& text) override;
+    void setTitle(const std::string& title) override;
+    void setAppearsDisabled(bool disabled) override;
+    void setAction(std::function<void()> action) override;
+    [[nodiscard]] std::optional<Rect> frame() const override;
+
+    void hostChanged();
+    void showStrip();
+    void drawPicture();
+    void clickedInBar(ClickEvent::Kind kind, QPoint claimed);
+    void clicked(ClickEvent click);
+    [[nodiscard]] std::optional<QRect> anchor() const;
+    [[nodiscard]] std::shared_ptr<MenuItem> panelItem();
+
+    ClickGesture& m_gesture;
+    Dispatcher m_dispatch;
+    std::function<void()> m_action;
+    QDBusConnection m_bus;
+    StatusHostMonitor m_hosts;
+    StatusNotifierItem m_item;
+    DBusMenu m_exportedMenu;
+    PopUpMenu m_popUpMenu;
+    std::unique_ptr<StripWindow> m_strip; ///< Null unless it is on show.
+    QTimer m_stripDelay;
+
+    StatusHostTraits m_traits;
+    QString m_title;
+    QString m_toolTip;
+    QFont m_font;
+    bool m_appearsDisabled = false;
+    std::optional<QRect> m_lastAnchor; ///< In the toolkit's coordinates.
+};
+
+} // namespace velto

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/status_item/StatusPicture.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+#include <QString>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace velto {
+
+namespace {
+
+QImage transparentImage(int width, int height)
+{
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+void paint(QImage& image, const QPainterPath& path, const StatusPictureInk& ink)
+{
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    // On nothing, replacing is the same as blending, and does not wake a pool of threads for it.
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.strokePath(path, QPen(ink.halo, image.height() / 12.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.fillPath(path, ink.text);
+}
+
+/// How much wider than drawn by the font a digit may get to fill its cell.
+constexpr double widest = 1.12;
+
+/// What a digit covers, relative to the start of its baseline.
+QRectF digitBounds(const QFont& font)
+{
+    QPainterPath path;
+    path.addText(0, 0, font, QStringLiteral("0"));
+    return path.boundingRect();
+}
+
+QFont inkFont(QFont font, double pixels)
+{
+    font.setPixelSize(static_cast<int>(std::lround(pixels)));
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+/// The text from (0, 0) on, baseline at 0, each digit in the middle of a cell of one width.
+QPainterPath textPath(const QString& text, const QFont& font, double& advance)
+{
+    const QFontMetricsF metrics(font);
+    double cell = 0;
+    for (char digit = '0'; digit <= '9'; ++digit)
+        cell = std::max(cell, metrics.horizontalAdvance(QLatin1Char(digit)));
+
+    QPainterPath path;
+    advance = 0;
+    for (const auto character : text) {
+        const double own = metrics.horizontalAdvance(character);
+        const double width = character.isDigit() ? cell : own;
+        path.addText(advance + (width - own) / 2, 0, font, QString(character));
+        advance += width;
+    }
+    return path;
+}
+
+} // namespace
+
+StatusPictureInk statusPictureInk(bool onDark, bool appearsDisabled)
+{
+    StatusPictureInk ink;
+    ink.text = onDark ? QColor(255, 255, 255) : QColor(24, 24, 26);
+    ink.halo = onDark ? QColor(0, 0, 0, 215) : QColor(255, 255, 255, 215);
+    if (appearsDisabled)
+        ink.text.setAlpha(128);
+    return ink;
+}
+
+QImage wideStatusPicture(const QString& text, const QFont& font, int height, const StatusPictureInk& ink)
+{
+    // A line of text in a bar takes about two thirds of its height.
+    const auto sized = inkFont(font, height * 2.0 / 3);
+    double advance = 0;
+    auto path = textPath(text, sized, advance);
+    const double margin = height / 16.0;
+    auto image = transparentImage(static_cast<int>(std::ceil(advance + 2 * margin)), height);
+    path.translate(margin, height / 2.0 - digitBounds(sized).center().y());
+    paint(image, path, ink);
+    return image;
+}
+
+QImage squareStatusPicture(const QString& text, const QFont& font, int height, const StatusPictureInk& ink)
+{
+    auto image = transparentImage(height, height);
+    const auto sized = inkFont(font, height);
+    const auto digit = digitBounds(sized);
+    const double margin = height / 24.0;
+    const double gap = height / 10.0;
+    const double lineHeight = (height - 2 * margin - gap) / 2;
+
+    QPainterPath lines;
+    double bottom = margin + lineHeight;
+    const double scaleY = lineHeight / digit.height();
+    for (const auto& part : text.split(QLatin1Char(':'))) {
+        double advance = 0;
+        const auto path = textPath(part, sized, advance);
+        const double scaleX = std::min(scaleY * widest, (height - 2 * margin) / advance);
+        QTransform place;
+        place.translate((height - advance * scaleX) / 2, bottom - digit.bottom() * scaleY);
+        place.scale(scaleX, scaleY);
+        lines.addPath(place.map(path));
+        bottom += lineHeight + gap;
+    }
+    paint(image, lines, ink);
+    return image;
+}
+
+QImage timerStatusPicture(int height, const StatusPictureInk& ink)
+{
+    auto image = transparentImage(height, height);
+    const double stroke = height / 10.0;
+    const QRectF face = QRectF(image.rect()).adjusted(stroke, stroke, -stroke, -stroke);
+
+    QPainterPath drawing;
+    drawing.arcMoveTo(face, 90);
+    drawing.arcTo(face, 90, -290);
+    drawing.moveTo(face.center());
+    drawing.lineTo(face.center().x(), face.top() + face.height() * 0.24);
+    QPainterPathStroker pen;
+    pen.setWidth(stroke);
+    pen.setCapStyle(Qt::RoundCap);
+    paint(image, pen.createStroke(drawing).simplified(), ink);
+    return image;
+}
+
+} // namespace velto

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/status_item/X11Pointer.h"
+
+#include "desktop/x11/X11Desktop.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QtGui/private/qhighdpiscaling_p.h>
+#include <qpa/qplatformscreen.h>
+
+#include <algorithm>
+
+namespace velto {
+
+namespace {
+
+bool isDock(xcb_window_t window)
+{
+    static const auto type = x11::atom("_NET_WM_WINDOW_TYPE");
+    static const auto dock = x11::atom("_NET_WM_WINDOW_TYPE_DOCK");
+    return std::ranges::count(x11::property(window, type), dock) > 0;
+}
+
+const QScreen* screenAt(QPoint pixel)
+{
+    for (const auto* screen : QGuiApplication::screens())
+        if (screen->handle()->geometry().contains(pixel))
+            return screen;
+    return QGuiApplication::primaryScreen();
+}
+
+/// The strip along an edge of the screen that is kept free of windows.
+std::optional<QRect> edgeStripAt(QPoint position)
+{
+    const auto* screen = screenAt(position);
+    if (!screen)
+        return std::nullopt;
+    const auto all = screen->handle()->geometry();
+    const auto usable = screen->handle()->availableGeometry();
+    for (const auto& strip : {
+             QRect(all.topLeft(), QPoint(all.right(), usable.top() - 1)),
+             QRect(QPoint(all.left(), usable.bottom() + 1), all.bottomRight()),
+             QRect(all.topLeft(), QPoint(usable.left() - 1, all.bottom())),
+             QRect(QPoint(usable.right() + 1, all.top()), all.bottomRight()),
+         })
+        if (strip.contains(position))
+            return strip;
+    return std::nullopt;
+}
+
+} // namespace
+
+ClickSurroundings clickSurroundings(QPoint claimed)
+{
+    ClickSurroundings result;
+    result.place.claimed = claimed;
+    if (!x11::connection())
+        return result;
+    const auto pointer = x11::pointer();
+    const QPoint position(pointer.x, pointer.y);
+    result.controlIsHeld = pointer.controlIsHeld;
+    result.place.pointer = position;
+    const auto dock = std::ranges::find_if(pointer.windows, isDock);
+    result.place.bar = dock != pointer.windows.end() ? x11::geometry(*dock) : edgeStripAt(position);
+    return result;
+}
+
+QRectF toLogical(const QRect& pixels)
+{
+    const auto* screen = screenAt(pixels.center());
+    if (!screen)
+        return pixels;
+    const double factor = QHighDpiScaling::factor(screen);
+    const QPointF origin = screen->handle()->geometry().topLeft();
+    return {
+        screen->geometry().topLeft() + (QPointF(pixels.topLeft()) - origin) / factor, QSizeF(pixels.size()) / factor};
+}
+
+} // namespace velto

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/windows/QtScreens.h"
+
+#include "desktop/windows/FlippedGeometry.h"
+#include "desktop/x11/X11Desktop.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+#include <cstdlib>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace velto {
+
+namespace {
+
+/// What a dock keeps free along the edges of the whole desktop, in pixels.
+struct Strut {
+    QPoint dockCentre;
+    int left = 0;
+    int right = 0;
+    int top = 0;
+    int bottom = 0;
+};
+
+struct Struts {
+    QSize desktop;
+    std::vector<Strut> all;
+};
+
+template <class Reply>
+using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
+
+Struts currentStruts()
+{
+    xcb_connection_t* connection = x11::connection();
+    const xcb_window_t root = x11::rootWindow();
+    const auto geometryOf = [connection](xcb_window_t window) {
+        const auto cookie = xcb_get_geometry(connection, window);
+        return Owned<xcb_get_geometry_reply_t>{xcb_get_geometry_reply(connection, cookie, nullptr), &std::free};
+    };
+    const auto whole = geometryOf(root);
+    if (!whole)
+        return {};
+
+    Struts struts{{whole->width, whole->height}, {}};
+    const xcb_atom_t partial = x11::atom("_NET_WM_STRUT_PARTIAL");
+    const xcb_atom_t simple = x11::atom("_NET_WM_STRUT");
+    for (const xcb_window_t window : x11::property(root, x11::atom("_NET_CLIENT_LIST"))) {
+        auto widths = x11::property(window, partial);
+        if (widths.size() < 4)
+            widths = x11::property(window, simple);
+        if (widths.size() < 4)
+            continue;
+        const auto geometry = geometryOf(window);
+        const auto cookie = xcb_translate_coordinates(connection, window, root, 0, 0);
+        const Owned<xcb_translate_coordinates_reply_t> position{
+            xcb_translate_coordinates_reply(connection, cookie, nullptr), &std::free};
+        if (!geometry || !position)
+            continue;
+        struts.all.push_back({{position->dst_x + geometry->width / 2, position->dst_y + geometry->height / 2},
+            static_cast<int>(widths[0]), static_cast<int>(widths[1]), static_cast<int>(widths[2]),
+            static_cast<int>(widths[3])});
+    }
+    return struts;
+}
+
+/// With several screens Qt takes all of each for usable, and the desktop's one work area can't tell them
+/// apart: what a bar keeps free is free on the screen the bar stands on.
+QRectF usableArea(const QScreen& screen)
+{
+    const QRect available = screen.availableGeometry();
+    if (!x11::connection())
+        return available;
+
+    // Qt leaves a screen's origin in pixels and scales its size.
+    const double scale = screen.devicePixelRatio();
+    const QPoint origin = screen.geometry().topLeft();
+    const QRect pixels{origin, (QSizeF{screen.geometry().size()} * scale).toSize()};
+    const Struts struts = currentStruts();
+    QRect free = pixels;
+    for (const Strut& strut : struts.all) {
+        if (!pixels.contains(strut.dockCentre))
+            continue;
+        const QRect rest{QPoint{strut.left, strut.top},
+            QPoint{struts.desktop.width() - strut.right - 1, struts.desktop.height() - strut.bottom - 1}};
+        if (const QRect narrowed = free & rest; !narrowed.isEmpty())
+            free = narrowed;
+    }
+    const QRectF points{QPointF{origin} + QPointF{free.topLeft() - origin} / scale, QSizeF{free.size()} / scale};
+    return points & QRectF{available};
+}
+
+Screen describe(const QScreen& screen)
+{
+    return {rectFromQt(screen.geometry()), rectFromQt(usableArea(screen))};
+}
+
+} // namespace
+
+QtScreens::QtScreens()
+{
+    m_changed.setSingleShot(true);
+    QObject::connect(&m_changed, &QTimer::timeout, &m_changed, [this] { m_changes.send(); });
+    m_changed.setInterval(0);
+    for (QScreen* screen : QGuiApplication::screens())
+        watch(screen);
+    const auto start = qOverload<>(&QTimer::start);
+    QObject::connect(qGuiApp, &QGuiApplication::screenAdded, &m_changed, [this](QScreen* screen) {
+        watch(screen);
+        m_changed.start();
+    });
+    QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, &m_changed, start);
+    QObject::connect(qGuiApp, &QGuiApplication::primaryScreenChanged, &m_changed, start);
+}
+
+void QtScreens::watch(QScreen* screen)
+{
+    QObject::connect(screen, &QScreen::geometryChanged, &m_changed, qOverload<>(&QTimer::start));
+    QObject::connect(screen, &QScreen::availableGeometryChanged, &m_changed, qOverload<>(&QTimer::start));
+}
+
+Subscription QtScreens::changes(std::function<void()> changed)
+{
+    return m_changes.subscribe(std::move(changed));
+}
+
+std::optional<Screen> QtScreens::mainScreen() const
+{
+    const QScreen* primary = QGuiApplication::primaryScreen();
+    return primary ? std::optional{describe(*primary)} : std::nullopt;
+}
+
+std::optional<Screen> QtScreens::screenOf(const Rect& rect) const
+{
+    const Point middle{rect.midX(), rect.midY()};
+    for (const QScreen* screen : QGuiApplication::screens())
+        if (rectFromQt(screen->geometry()).contains(middle))
+            return describe(*screen);
+    return std::nullopt;
+}
+
+} // namespace velto

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/windows/SheetWindow.h"
+
+#include "desktop/windows/FlippedGeometry.h"
+#include "desktop/windows/SheetPlacement.h"
+#include "platform/Screens.h"
+
+#include <QEvent>
+#include <QWindow>
+
+#include <utility>
+
+namespace velto {
+
+SheetWindow::SheetWindow(std::unique_ptr<QWidget> content, QWidget& presenter, Screens& screens,
+    std::function<void()> dismiss, Focus focus) :
+    FloatingWindow(std::move(content), std::move(dismiss), focus, presenter.window()),
+    m_panel(*presenter.window()),
+    m_screens(screens),
+    m_wantedSize(sizeHint())
+{
+    setWindowTitle(findChild<QWidget*>({}, Qt::FindDirectChildrenOnly)->windowTitle());
+    m_panel.installEventFilter(this);
+    // Not by window modality: window managers give a modal window the keyboard.
+    m_panel.windowHandle()->installEventFilter(this);
+    m_screenChanges = screens.changes([this] {
+        if (isVisible())
+            place();
+    });
+}
+
+void SheetWindow::setVisible(bool visible)
+{
+    if (visible)
+        place();
+    FloatingWindow::setVisible(visible);
+}
+
+bool SheetWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_panel.windowHandle() && isVisible() && event->isInputEvent())
+        return true;
+    if (watched == &m_panel && isVisible()) {
+        if (event->type() == QEvent::Move)
+            place();
+        else if (event->type() == QEvent::ZOrderChange)
+            raise();
+    }
+    return FloatingWindow::eventFilter(watched, event);
+}
+
+void SheetWindow::place()
+{
+    const auto panel = rectFromQt(m_panel.geometry());
+    auto screen = m_screens.screenOf(panel);
+    if (!screen)
+        screen = m_screens.mainScreen();
+    if (!screen)
+        return;
+    const Size wanted{static_cast<double>(m_wantedSize.width()), static_cast<double>(m_wantedSize.height())};
+    setGeometry(rectToQt(placeSheet(panel, screen->visibleFrame, wanted)).toRect());
+}
+
+} // namespace velto

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/windows/FloatingWindow.h"
+#include "observation/Subscription.h"
+
+namespace velto {
+
+class Screens;
+
+/// A sheet on the panel: a card of its own that hangs from the panel's top edge and goes where the panel
+/// goes, within the usable area of its screen. While it is shown the panel takes no clicks and no keys; other windows
+/// do.
+class SheetWindow final : public FloatingWindow {
+    Q_OBJECT
+
+public:
+    /// `presenter` is any widget in the panel; this belongs to the panel's window too. The size wanted is the
+    /// content's size hint. `screens` must outlive this.
+    SheetWindow(std::unique_ptr<QWidget> content, QWidget& presenter, Screens& screens, std::function<void()> dismiss,
+        Focus focus);
+
+    void setVisible(bool visible) override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void place();
+
+    QWidget& m_panel;
+    const Screens& m_screens;
+    QSize m_wantedSize;
+    Subscription m_screenChanges;
+};
+
+} // namespace velto

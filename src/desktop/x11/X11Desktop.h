@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include <QRect>
+
+#include <xcb/xcb.h>
+
+/// Questions to the X server over the application's own connection. Each is a round trip.
+namespace velto::x11 {
+
+/// Null when the application does not run on X11; then nothing else here may be called but what says so.
+[[nodiscard]] xcb_connection_t* connection();
+[[nodiscard]] xcb_window_t rootWindow();
+[[nodiscard]] bool hasWindowManager();
+/// Without one, translucent pixels are drawn as if they were opaque.
+[[nodiscard]] bool hasCompositingManager();
+[[nodiscard]] xcb_atom_t atom(std::string_view name);
+
+/// A property made of 32-bit items; empty when the window has none of that name.
+[[nodiscard]] std::vector<std::uint32_t> property(xcb_window_t window, xcb_atom_t name);
+void setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t type, const std::vector<std::uint32_t>& items);
+
+/// The window's ancestor right below the root: its frame, if the window manager gave it one. Absent
+/// when the window is gone.
+[[nodiscard]] std::optional<xcb_window_t> outermost(xcb_window_t window);
+
+/// The window that gets the keys, as far as the window manager or else the server knows.
+[[nodiscard]] xcb_window_t focusedWindow();
+/// Asks for `window` to get the keys, whatever has them.
+void focus(xcb_window_t window);
+/// Asks the window manager, by the message of that name, to do something with a window that it manages.
+void request(xcb_window_t window, std::string_view message, const std::array<std::uint32_t, 5>& items);
+
+/// Tells the desktop that what it expected to start, and shows a busy pointer for, has started.
+void endStartup(std::string_view id);
+
+struct Pointer {
+    std::vector<xcb_window_t> windows; ///< Under it, outermost first; none where the desktop is bare.
+    std::int16_t x = 0;                ///< Pixels of the X screen, origin top left.
+    std::int16_t y = 0;
+    bool controlIsHeld = false;
+    bool buttonIsHeld = false; ///< Any of the main three.
+};
+
+[[nodiscard]] Pointer pointer();
+
+/// Whether a mouse button is down, so that another program may hold the mouse. False where there is no X11.
+[[nodiscard]] bool mouseIsPressed();
+
+/// The part of the X screen that `window` covers. Absent when the window is gone.
+[[nodiscard]] std::optional<QRect> geometry(xcb_window_t window);
+
+} // namespace velto::x11

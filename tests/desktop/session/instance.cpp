@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+// A program of which only one runs: says "running" and then "activated" for every other launch.
+#include "desktop/session/SingleInstance.h"
+
+#include <QCoreApplication>
+
+#include <iostream>
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication application(argc, argv);
+    velto::SingleInstance instance{[] { std::cout << "activated" << std::endl; }};
+    if (!instance.claim())
+        return 0;
+    std::cout << "running" << std::endl;
+    return application.exec();
+}

@@ -1,0 +1,402 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/storage/PlistKeyValueStore.h"
+
+#include "fixtures/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <random>
+#include <thread>
+#include <vector>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace velto {
+
+namespace {
+
+class PlistKeyValueStoreTest : public testing::Test {
+protected:
+    void write(const std::string& content, const fs::path& path)
+    {
+        fs::create_directories(path.parent_path());
+        std::ofstream{path, std::ios::binary} << content;
+    }
+
+    static std::string read(const fs::path& path)
+    {
+        std::ifstream file{path, std::ios::binary};
+        return {std::istreambuf_iterator<char>{file}, {}};
+    }
+
+    static mode_t modeOf(const fs::path& path)
+    {
+        struct stat status { };
+        EXPECT_EQ(::stat(path.c_str(), &status), 0) << path;
+        return status.st_mode & 07777;
+    }
+
+    static std::vector<std::string> namesIn(const fs::path& path)
+    {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator{path})
+            names.push_back(entry.path().filename());
+        std::ranges::sort(names);
+        return names;
+    }
+
+    [[nodiscard]] std::vector<fs::path> corruptOnes() const
+    {
+        std::vector<fs::path> found;
+        for (const auto& entry : fs::directory_iterator{file.parent_path()})
+            if (entry.path().filename().string().starts_with("defaults.plist.corrupt-"))
+                found.push_back(entry.path());
+        std::ranges::sort(found);
+        return found;
+    }
+
+    TemporaryFolder folder;
+    const fs::path file = folder.path() / "config" / "velto" / "defaults.plist";
+};
+
+/// Runs `work` in a process of its own; true when it returned true.
+bool inAnotherProcess(const std::function<bool()>& work)
+{
+    const pid_t child = ::fork();
+    if (child == 0)
+        ::_exit(work() ? EXIT_SUCCESS : EXIT_FAILURE);
+    int status = 0;
+    return ::waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == EXIT_SUCCESS;
+}
+
+} // namespace
+
+TEST_F(PlistKeyValueStoreTest, NothingIsWrittenBeforeTheFirstAssignment)
+{
+    const PlistKeyValueStore store{file};
+
+    EXPECT_EQ(store.object("focusMinutes"), std::nullopt);
+    EXPECT_TRUE(fs::is_empty(folder.path()));
+}
+
+TEST_F(PlistKeyValueStoreTest, WhatIsAssignedIsThereInTheNextRun)
+{
+    {
+        PlistKeyValueStore store{file};
+        store.set("focusMinutes", std::int64_t{50});
+        store.set("autoTransition", true);
+        store.set("musicVolume", 1.7F);
+        store.set("focusCustomURL", std::string{"https://example.org/?a=1&b=<2>"});
+        store.set("focusEndSound", Blob{0x22, 'N', 'o', 'n', 'e', 0x22});
+        store.set("focusMinutes", std::int64_t{-3});
+    }
+
+    const PlistKeyValueStore store{file};
+    EXPECT_EQ(store.value<std::int64_t>("focusMinutes"), -3);
+    EXPECT_EQ(store.value<bool>("autoTransition"), true);
+    EXPECT_EQ(store.value<float>("musicVolume"), 1.7F);
+    EXPECT_EQ(store.value<std::string>("focusCustomURL"), "https://example.org/?a=1&b=<2>");
+    EXPECT_EQ(store.value<Blob>("focusEndSound"), (Blob{0x22, 'N', 'o', 'n', 'e', 0x22}));
+    EXPECT_EQ(store.value<bool>("focusMinutes"), std::nullopt);
+    EXPECT_EQ(store.value<std::int64_t>("musicVolume"), std::nullopt);
+}
+
+TEST_F(PlistKeyValueStoreTest, TheFileIsAnXmlPropertyList)
+{
+    PlistKeyValueStore store{file};
+    store.set("focusMinutes", std::int64_t{50});
+    store.set("autoTransition", true);
+    store.set("musicVolume", 0.25F);
+
+    const std::string xml = read(file);
+    EXPECT_TRUE(xml.starts_with("<?xml")) << xml;
+    EXPECT_NE(xml.find("<key>focusMinutes</key>\n\t<integer>50</integer>"), std::string::npos) << xml;
+    EXPECT_NE(xml.find("<key>autoTransition</key>\n\t<true/>"), std::string::npos) << xml;
+    EXPECT_NE(xml.find("<key>musicVolume</key>\n\t<real>0.25</real>"), std::string::npos) << xml;
+}
+
+TEST_F(PlistKeyValueStoreTest, OnlyTheUserMayReadIt)
+{
+    const mode_t before = ::umask(0);
+    PlistKeyValueStore store{file};
+    store.set("focusMinutes", std::int64_t{50});
+    fs::permissions(file, fs::perms{0644});
+    store.set("focusMinutes", std::int64_t{51});
+    ::umask(before);
+
+    EXPECT_EQ(modeOf(file), 0600U);
+    EXPECT_EQ(modeOf(file.parent_path()), 0700U);
+    EXPECT_EQ(namesIn(file.parent_path()), std::vector<std::string>{"defaults.plist"});
+}
+
+TEST_F(PlistKeyValueStoreTest, EntriesOfOthersStay)
+{
+    write("<plist version=\"1.0\"><dict><key>theirs</key><array><integer>1</integer></array>"
+          "<key>focusMinutes</key><string>many</string></dict></plist>",
+        file);
+    PlistKeyValueStore store{file};
+    EXPECT_EQ(store.value<std::int64_t>("focusMinutes"), std::nullopt);
+    EXPECT_EQ(store.object("theirs"), std::nullopt);
+
+    store.set("breakMinutes", std::int64_t{7});
+
+    const std::string xml = read(file);
+    EXPECT_NE(xml.find("<key>theirs</key>\n\t<array>\n\t\t<integer>1</integer>\n\t</array>"), std::string::npos) << xml;
+    EXPECT_NE(xml.find("<string>many</string>"), std::string::npos) << xml;
+    EXPECT_NE(xml.find("<integer>7</integer>"), std::string::npos) << xml;
+    EXPECT_TRUE(corruptOnes().empty());
+}
+
+TEST_F(PlistKeyValueStoreTest, AFileThatIsNoPropertyListIsMovedAside)
+{
+    for (const std::string content : {"", "no property list", "<plist><array/></plist>"}) {
+        fs::remove_all(file.parent_path());
+        write(content, file);
+
+        PlistKeyValueStore store{file};
+        EXPECT_EQ(store.object("focusMinutes"), std::nullopt);
+        EXPECT_EQ(read(file), content) << "touched before the first assignment";
+        store.set("focusMinutes", std::int64_t{50});
+
+        ASSERT_EQ(corruptOnes().size(), 1U);
+        EXPECT_EQ(read(corruptOnes().front()), content);
+        EXPECT_EQ(PlistKeyValueStore{file}.value<std::int64_t>("focusMinutes"), 50);
+        store.set("focusMinutes", std::int64_t{51});
+        EXPECT_EQ(corruptOnes().size(), 1U);
+    }
+}
+
+TEST_F(PlistKeyValueStoreTest, NoFileMovedAsideIsEverOverwritten)
+{
+    constexpr int rounds = 20;
+    for (int round = 0; round < rounds; ++round) {
+        write("broken " + std::to_string(round), file);
+        PlistKeyValueStore{file}.set("focusMinutes", std::int64_t{round});
+    }
+
+    std::vector<std::string> contents;
+    for (const auto& path : corruptOnes())
+        contents.push_back(read(path));
+    std::ranges::sort(contents);
+    std::vector<std::string> expected;
+    for (int round = 0; round < rounds; ++round)
+        expected.push_back("broken " + std::to_string(round));
+    std::ranges::sort(expected);
+    EXPECT_EQ(contents, expected);
+}
+
+TEST_F(PlistKeyValueStoreTest, WhatIsNoPlainFileDoesNotHoldUpTheStart)
+{
+    fs::create_directories(file.parent_path());
+    ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0);
+
+    PlistKeyValueStore store{file};
+    store.set("focusMinutes", std::int64_t{50});
+
+    EXPECT_EQ(corruptOnes().size(), 1U);
+    EXPECT_EQ(PlistKeyValueStore{file}.value<std::int64_t>("focusMinutes"), 50);
+}
+
+TEST_F(PlistKeyValueStoreTest, AFolderInTheWayCostsNothingInMemory)
+{
+    fs::create_directories(file);
+
+    PlistKeyValueStore store{file};
+    store.set("focusMinutes", std::int64_t{50});
+
+    EXPECT_EQ(store.value<std::int64_t>("focusMinutes"), 50);
+    EXPECT_TRUE(fs::is_directory(file));
+    EXPECT_EQ(namesIn(file.parent_path()), std::vector<std::string>{"defaults.plist"});
+}
+
+TEST_F(PlistKeyValueStoreTest, ASymbolicLinkStaysOneAndItsTargetIsReplaced)
+{
+    const fs::path target = folder.path() / "dotfiles" / "velto.plist";
+    fs::create_directories(target.parent_path());
+    fs::create_directories(file.parent_path());
+    fs::create_symlink("../../dotfiles/velto.plist", file);
+
+    PlistKeyValueStore{file}.set("focusMinutes", std::int64_t{50});
+    EXPECT_TRUE(fs::is_symlink(file));
+    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(target)));
+    EXPECT_EQ(PlistKeyValueStore{file}.value<std::int64_t>("focusMinutes"), 50);
+
+    write("broken", target);
+    PlistKeyValueStore{file}.set("focusMinutes", std::int64_t{51});
+    EXPECT_TRUE(fs::is_symlink(file));
+    EXPECT_EQ(namesIn(target.parent_path()).size(), 2U);
+    EXPECT_EQ(PlistKeyValueStore{target}.value<std::int64_t>("focusMinutes"), 51);
+}
+
+TEST_F(PlistKeyValueStoreTest, ALinkToItselfCostsNothingInMemory)
+{
+    fs::create_directories(file.parent_path());
+    fs::create_symlink("defaults.plist", file);
+
+    PlistKeyValueStore store{file};
+    store.set("focusMinutes", std::int64_t{50});
+
+    EXPECT_EQ(store.value<std::int64_t>("focusMinutes"), 50);
+}
+
+TEST_F(PlistKeyValueStoreTest, AFullDiskCostsNothingAndTheNextAssignmentTriesAgain)
+{
+    PlistKeyValueStore{file}.set("focusMinutes", std::int64_t{50});
+    const std::string before = read(file);
+
+    const bool held = inAnotherProcess([&] {
+        // A limit on the size of files fails like a full disk does.
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limit{};
+        ::getrlimit(RLIMIT_FSIZE, &limit);
+        limit.rlim_cur = 64;
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        PlistKeyValueStore store{file};
+
+        store.set("breakMinutes", std::int64_t{7});
+        const bool isInMemory = store.value<std::int64_t>("breakMinutes") == 7;
+        const bool isUntouched = read(file) == before && namesIn(file.parent_path()).size() == 1;
+
+        limit.rlim_cur = limit.rlim_max;
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        store.set("autoTransition", true);
+        return isInMemory && isUntouched;
+    });
+
+    EXPECT_TRUE(held);
+    const PlistKeyValueStore store{file};
+    EXPECT_EQ(store.value<std::int64_t>("focusMinutes"), 50);
+    EXPECT_EQ(store.value<std::int64_t>("breakMinutes"), 7);
+    EXPECT_EQ(store.value<bool>("autoTransition"), true);
+    EXPECT_EQ(namesIn(file.parent_path()), std::vector<std::string>{"defaults.plist"});
+}
+
+TEST_F(PlistKeyValueStoreTest, AReadOnlyFolderCostsNothingAndTheNextAssignmentTriesAgain)
+{
+    PlistKeyValueStore{file}.set("focusMinutes", std::int64_t{50});
+    fs::permissions(folder.path(), fs::perms{0755});
+
+    const bool held = inAnotherProcess([&] {
+        // Permissions say nothing to the superuser.
+        constexpr uid_t nobody = 65534;
+        if (::geteuid() == 0) {
+            for (const auto& path : {file.parent_path().parent_path(), file.parent_path(), file})
+                if (::chown(path.c_str(), nobody, nobody) != 0)
+                    return false;
+            if (::setuid(nobody) != 0)
+                return false;
+        }
+        fs::permissions(file.parent_path(), fs::perms{0500});
+        PlistKeyValueStore store{file};
+
+        store.set("breakMinutes", std::int64_t{7});
+        const bool isInMemory = store.value<std::int64_t>("breakMinutes") == 7;
+        const bool isUntouched = !PlistKeyValueStore{file}.object("breakMinutes");
+
+        fs::permissions(file.parent_path(), fs::perms{0700});
+        store.set("breakMinutes", std::int64_t{7});
+        return isInMemory && isUntouched;
+    });
+
+    EXPECT_TRUE(held);
+    EXPECT_EQ(PlistKeyValueStore{file}.value<std::int64_t>("breakMinutes"), 7);
+}
+
+TEST_F(PlistKeyValueStoreTest, AFileThatMayNotBeReadIsNeitherLostNorOverwritten)
+{
+    write("<plist><dict><key>focusMinutes</key><integer>40</integer></dict></plist>", file);
+    fs::permissions(folder.path(), fs::perms{0755});
+
+    const bool held = inAnotherProcess([&] {
+        constexpr uid_t nobody = 65534;
+        if (::geteuid() == 0) {
+            for (const auto& path : {file.parent_path(), file})
+                if (::chown(path.c_str(), nobody, nobody) != 0)
+                    return false;
+            if (::setuid(nobody) != 0)
+                return false;
+        }
+        fs::permissions(file, fs::perms{0});
+        PlistKeyValueStore store{file};
+        store.set("breakMinutes", std::int64_t{7});
+        return corruptOnes().size() == 1 && ::chmod(corruptOnes().front().c_str(), 0600) == 0;
+    });
+
+    ASSERT_TRUE(held);
+    EXPECT_EQ(PlistKeyValueStore{corruptOnes().front()}.value<std::int64_t>("focusMinutes"), 40);
+    EXPECT_EQ(PlistKeyValueStore{file}.value<std::int64_t>("breakMinutes"), 7);
+}
+
+TEST_F(PlistKeyValueStoreTest, AKillAtAnyMomentLeavesTheLastCompleteAssignment)
+{
+    constexpr std::int64_t assignments = 1000;
+    std::mt19937 random{std::random_device{}()};
+    std::uniform_int_distribution<std::int64_t> anyCount{1, 40};
+    std::uniform_int_distribution<int> anyPause{0, 500};
+    PlistKeyValueStore{file}.set("theirs", std::string{"kept"});
+
+    for (std::int64_t completed = 0; completed < assignments;) {
+        std::array<int, 2> pipe{};
+        ASSERT_EQ(::pipe(pipe.data()), 0);
+        const pid_t child = ::fork();
+        if (child == 0) {
+            ::dup2(pipe[1], STDOUT_FILENO);
+            ::close(pipe[0]);
+            ::execl(STORE_WRITER, STORE_WRITER, file.c_str(), std::to_string(completed + 1).c_str(), nullptr);
+            ::_exit(127);
+        }
+        ::close(pipe[1]);
+        const auto readNext = [&] {
+            std::int64_t number = 0;
+            if (::read(pipe[0], &number, sizeof number) != static_cast<ssize_t>(sizeof number))
+                return false;
+            completed = number;
+            return true;
+        };
+        for (auto count = anyCount(random); count > 0; --count)
+            ASSERT_TRUE(readNext());
+        std::this_thread::sleep_for(std::chrono::microseconds{anyPause(random)});
+        ::kill(child, SIGKILL);
+        ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+        while (readNext()) { }
+        ::close(pipe[0]);
+
+        ASSERT_TRUE(PropertyList::parse(read(file))) << read(file);
+        const PlistKeyValueStore store{file};
+        const auto number = store.value<std::int64_t>("number");
+        ASSERT_TRUE(number);
+        EXPECT_GE(*number, completed);
+        EXPECT_LE(*number, completed + 1);
+        EXPECT_EQ(store.value<std::string>("theirs"), "kept");
+    }
+    EXPECT_TRUE(corruptOnes().empty());
+}
+
+TEST(PlistKeyValueStorePathTest, IsInTheUsersConfigurationFolder)
+{
+    ::setenv("HOME", "/home/somebody", 1);
+    ::setenv("XDG_CONFIG_HOME", "/elsewhere", 1);
+    EXPECT_EQ(PlistKeyValueStore::defaultPath(), "/elsewhere/velto/defaults.plist");
+
+    for (const char* unusable : {"", "relative/folder"}) {
+        ::setenv("XDG_CONFIG_HOME", unusable, 1);
+        EXPECT_EQ(PlistKeyValueStore::defaultPath(), "/home/somebody/.config/velto/defaults.plist");
+    }
+    ::unsetenv("XDG_CONFIG_HOME");
+    EXPECT_EQ(PlistKeyValueStore::defaultPath(), "/home/somebody/.config/velto/defaults.plist");
+}
+
+} // namespace velto
