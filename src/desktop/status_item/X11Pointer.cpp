@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/status_item/X11Pointer.h"
 
-#include "desktop/x11/X11Desktop.h"
-
 #include <QGuiApplication>
 #include <QScreen>
 #include <QtGui/private/qhighdpiscaling_p.h>
@@ -50,6 +48,12 @@ std::optional<QRect> edgeStripAt(QPoint position)
 
 } // namespace
 
+std::optional<QRect> barAt(const x11::Pointer& pointer)
+{
+    const auto dock = std::ranges::find_if(pointer.windows, isDock);
+    return dock != pointer.windows.end() ? x11::geometry(*dock) : edgeStripAt({pointer.x, pointer.y});
+}
+
 ClickSurroundings clickSurroundings(QPoint claimed)
 {
     ClickSurroundings result;
@@ -57,11 +61,9 @@ ClickSurroundings clickSurroundings(QPoint claimed)
     if (!x11::connection())
         return result;
     const auto pointer = x11::pointer();
-    const QPoint position(pointer.x, pointer.y);
     result.controlIsHeld = pointer.controlIsHeld;
-    result.place.pointer = position;
-    const auto dock = std::ranges::find_if(pointer.windows, isDock);
-    result.place.bar = dock != pointer.windows.end() ? x11::geometry(*dock) : edgeStripAt(position);
+    result.place.pointer = QPoint(pointer.x, pointer.y);
+    result.place.bar = barAt(pointer);
     return result;
 }
 

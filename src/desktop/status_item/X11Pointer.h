@@ -2,10 +2,15 @@
 #pragma once
 
 #include "desktop/status_item/StatusAnchor.h"
+#include "desktop/x11/X11Desktop.h"
 
 #include <QRectF>
 
 namespace velto {
+
+/// The panel bar under the pointer, in pixels: a dock window, or the edge of the screen that is kept free of windows,
+/// since some desktops draw their bars without a window. Absent elsewhere.
+[[nodiscard]] std::optional<QRect> barAt(const x11::Pointer& pointer);
 
 /// What the display tells of a click that is being handled.
 struct ClickSurroundings {

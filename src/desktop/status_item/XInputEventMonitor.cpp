@@ -2,6 +2,7 @@
 #include "desktop/status_item/XInputEventMonitor.h"
 
 #include "desktop/status_item/ClickGesture.h"
+#include "desktop/status_item/X11Pointer.h"
 #include "desktop/x11/X11Desktop.h"
 
 #include <QGuiApplication>
@@ -10,8 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <initializer_list>
-#include <string_view>
 #include <utility>
 
 // Last: it defines words like None and Bool.
@@ -41,29 +40,20 @@ bool isOurs(xcb_window_t topLevel)
     });
 }
 
-bool isOfType(xcb_window_t window, std::initializer_list<std::string_view> names)
-{
-    static const xcb_atom_t property = x11::atom("_NET_WM_WINDOW_TYPE");
-    const auto types = x11::property(window, property);
-    return std::ranges::any_of(names, [&](auto name) { return std::ranges::count(types, x11::atom(name)) > 0; });
-}
-
 bool isMenu(xcb_window_t window)
 {
-    return isOfType(
-        window, {"_NET_WM_WINDOW_TYPE_POPUP_MENU", "_NET_WM_WINDOW_TYPE_DROPDOWN_MENU", "_NET_WM_WINDOW_TYPE_MENU"});
+    static const xcb_atom_t property = x11::atom("_NET_WM_WINDOW_TYPE");
+    static const std::array menus{x11::atom("_NET_WM_WINDOW_TYPE_POPUP_MENU"),
+        x11::atom("_NET_WM_WINDOW_TYPE_DROPDOWN_MENU"), x11::atom("_NET_WM_WINDOW_TYPE_MENU")};
+    return std::ranges::any_of(
+        x11::property(window, property), [](auto type) { return std::ranges::count(menus, type) > 0; });
 }
 
-bool isBar(xcb_window_t window)
+Press::Target targetOf(const x11::Pointer& pointer)
 {
-    return isOfType(window, {"_NET_WM_WINDOW_TYPE_DOCK"});
-}
-
-Press::Target targetOf(const std::vector<xcb_window_t>& windows)
-{
-    if (std::ranges::any_of(windows, isMenu))
+    if (std::ranges::any_of(pointer.windows, isMenu))
         return Press::Target::menu;
-    return std::ranges::any_of(windows, isBar) ? Press::Target::bar : Press::Target::elsewhere;
+    return barAt(pointer) ? Press::Target::bar : Press::Target::elsewhere;
 }
 
 } // namespace
@@ -195,8 +185,8 @@ void XInputEventMonitor::press(bool isSecondary)
 {
     const x11::Pointer pointer = x11::pointer();
     const bool isOutside = pointer.windows.empty() || !isOurs(pointer.windows.front());
-    m_gesture.press({targetOf(pointer.windows), isSecondary || pointer.controlIsHeld},
-        isOutside ? watchers() : std::function<void()>{});
+    m_gesture.press(
+        {targetOf(pointer), isSecondary || pointer.controlIsHeld}, isOutside ? watchers() : std::function<void()>{});
 }
 
 std::function<void()> XInputEventMonitor::watchers()

@@ -8,7 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QGuiApplication>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 
 namespace velto {
@@ -204,6 +206,26 @@ TEST_F(XInputEventMonitorTest, ARightPressOnABarWaitsForTheMenu)
     EXPECT_TRUE(count(1)) << presses << " no menu has opened";
     ASSERT_TRUE(Desktop::click(1500, 10));
     EXPECT_TRUE(count(2)) << presses;
+}
+
+TEST_F(XInputEventMonitorTest, AReservedEdgeWithoutAWindowIsABarToo)
+{
+    Desktop::current().startWindowManager();
+    OtherWindow reserving{{0, 600, 2400, 1}, OtherWindow::Kind::dock};
+    reserving.setStrut(0, 0, 30, 0);
+    reserving.show();
+    ASSERT_TRUE(eventually([] { return QGuiApplication::primaryScreen()->availableGeometry().top() == 30; }));
+    const auto token = watch();
+
+    ASSERT_TRUE(Desktop::click(1500, 10, 3));
+    ASSERT_TRUE(eventually([&] { return gesture.isUnderway(); }));
+    EXPECT_EQ(presses, 0);
+    gesture.menuOpened();
+    EXPECT_TRUE(stays([&] { return presses == 0; }));
+    gesture.menuClosed();
+
+    ASSERT_TRUE(Desktop::click(1500, 900, 3));
+    EXPECT_TRUE(count(1)) << presses << " below the edge";
 }
 
 TEST_F(XInputEventMonitorTest, AMenuThatIsGoneTakesNoPress)
