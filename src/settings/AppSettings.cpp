@@ -6,6 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 
@@ -23,6 +24,9 @@ Blob encodeJsonString(std::string_view text)
 
 std::optional<std::string> decodeJsonString(const Blob& blob)
 {
+    // The parser takes a NUL for the end.
+    if (std::ranges::find(blob, 0) != blob.end())
+        return std::nullopt;
     const auto value = nlohmann::json::parse(blob, nullptr, /*allow_exceptions=*/false);
     return value.is_string() ? std::optional(value.get<std::string>()) : std::nullopt;
 }

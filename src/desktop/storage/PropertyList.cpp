@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/storage/PropertyList.h"
 
+#include <algorithm>
+#include <charconv>
 #include <clocale>
 #include <cmath>
 #include <cstdlib>
@@ -32,6 +34,71 @@ private:
     locale_t m_plain;
     locale_t m_previous;
 };
+
+std::string_view trimmed(std::string_view text)
+{
+    constexpr std::string_view blanks = " \t\r\n";
+    const auto first = std::min(text.find_first_not_of(blanks), text.size());
+    return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
+}
+
+template <class Number>
+std::optional<Number> numberOf(std::string_view text)
+{
+    Number number{};
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc{} && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
+}
+
+/// The text of a number element in the only spelling that libplist reads as it is meant; absent when it is
+/// no number.
+std::optional<std::string> plainNumber(std::string_view tag, std::string_view text)
+{
+    text = trimmed(text);
+    if (text.starts_with('+') && !text.starts_with("+-"))
+        text.remove_prefix(1);
+    if (tag == "real")
+        return numberOf<double>(text) ? std::optional(std::string{text}) : std::nullopt;
+    if (const auto number = numberOf<std::int64_t>(text))
+        return std::to_string(*number);
+    if (const auto number = numberOf<std::uint64_t>(text))
+        return std::to_string(*number);
+    return std::nullopt;
+}
+
+/// libplist takes what begins like a number for one, and anything else for zero. Here what is no number
+/// becomes an array that holds the text: no StoredValue, and not lost.
+std::string withPlainNumbers(std::string_view xml)
+{
+    std::string result;
+    std::size_t done = 0;
+    for (auto open = xml.find('<'); open != std::string_view::npos; open = xml.find('<', open)) {
+        const std::string_view rest = xml.substr(open);
+        const auto close = rest.find(rest.starts_with("<!--") ? "-->" : rest.starts_with("<![CDATA[") ? "]]>" : ">");
+        if (close == std::string_view::npos)
+            break;
+        std::string_view tag = trimmed(rest.substr(1, close - 1));
+        const bool isEmpty = tag.ends_with('/');
+        tag = tag.substr(0, tag.find_first_of(" \t\r\n/"));
+        open += close + 1;
+        if (tag != "integer" && tag != "real")
+            continue;
+
+        const std::string endTag = "</" + std::string{tag} + '>';
+        const auto end = isEmpty ? open : xml.find("</", open);
+        if (end == std::string_view::npos)
+            break;
+        if (!isEmpty && !xml.substr(end).starts_with(endTag))
+            continue;
+        const std::string_view text = xml.substr(open, end - open);
+        const auto number = plainNumber(tag, text);
+        result += xml.substr(done, open - close - 1 - done);
+        result += number ? '<' + std::string{tag} + '>' + *number + endTag
+                         : "<array><string>" + std::string{text} + "</string></array>";
+        done = open = end + (isEmpty ? 0 : endTag.size());
+    }
+    return result.append(xml.substr(done));
+}
 
 std::string xmlOf(plist_t node)
 {
@@ -114,7 +181,7 @@ std::optional<PropertyList> PropertyList::parse(std::string_view bytes)
 {
     if (bytes.size() > maximumSize)
         return std::nullopt;
-    Node root = parseNode(bytes);
+    Node root = parseNode(bytes.starts_with("bplist") ? bytes : withPlainNumbers(bytes));
     if (!root || plist_get_node_type(root.get()) != PLIST_DICT || isDeeperThan(maximumDepth, root.get()))
         return std::nullopt;
 

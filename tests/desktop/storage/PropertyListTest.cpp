@@ -111,6 +111,40 @@ TEST(PropertyListTest, WhatIsNoStoredValueIsAbsent)
     EXPECT_EQ(PropertyList{}.value("it"), std::nullopt);
 }
 
+TEST(PropertyListTest, ANumberThatCannotBeReadIsAbsentAndTheRestStays)
+{
+    for (const char* element : {"<integer>abc</integer>", "<integer>30x</integer>", "<integer>1.5</integer>",
+             "<integer>0x1E</integer>", "<integer>3 0</integer>", "<integer></integer>", "<integer/>", "<integer />",
+             "<integer>- 5</integer>", "<integer>+-5</integer>", "<integer>99999999999999999999</integer>",
+             "<real>0,5</real>", "<real>half</real>", "<real>0.5f</real>", "<real>1e999</real>", "<real/>"}) {
+        auto list = PropertyList::parse(document("<key>before</key><integer>1</integer><key>it</key>"
+            + std::string{element} + "<key>after</key><real>2</real>"));
+
+        ASSERT_TRUE(list) << element;
+        EXPECT_EQ(list->value("it"), std::nullopt) << element;
+        EXPECT_EQ(list->value("before"), StoredValue{std::int64_t{1}}) << element;
+        EXPECT_EQ(list->value("after"), StoredValue{2.0F}) << element;
+    }
+    EXPECT_NE(
+        PropertyList::parse(document("<key>it</key><integer>30x</integer>"))->toXml().find("30x"), std::string::npos);
+}
+
+TEST(PropertyListTest, ANumberIsReadAsAPersonWroteIt)
+{
+    EXPECT_EQ(valueIn("<integer>030</integer>"), StoredValue{std::int64_t{30}});
+    EXPECT_EQ(valueIn("<integer>+30</integer>"), StoredValue{std::int64_t{30}});
+    EXPECT_EQ(valueIn("<integer>\n\t-30\n</integer>"), StoredValue{std::int64_t{-30}});
+    EXPECT_EQ(valueIn("<integer >30</integer>"), StoredValue{std::int64_t{30}});
+    EXPECT_EQ(valueIn("<real> +5e-1 </real>"), StoredValue{0.5F});
+}
+
+TEST(PropertyListTest, TextThatOnlyLooksLikeANumberStaysAsItIs)
+{
+    EXPECT_EQ(valueIn("<string><![CDATA[<integer>30x</integer>]]></string>"),
+        StoredValue{std::string{"<integer>30x</integer>"}});
+    EXPECT_EQ(valueIn("<!-- <integer>30x</integer> --><true/>"), StoredValue{true});
+}
+
 TEST(PropertyListTest, NumbersDoNotDependOnTheLanguage)
 {
     const TemporaryFolder languages;

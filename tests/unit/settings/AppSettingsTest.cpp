@@ -156,6 +156,8 @@ TEST_F(AppSettingsTest, ASoundIsReadAsOneJsonStringOrCountsAsTheDefault)
         {"1", SoundOption::glass},
         {"null", SoundOption::glass},
         {"\"\xff\"", SoundOption::glass},
+        {quoted("Basso") + std::string("\0garbage", 8), SoundOption::glass},
+        {quoted("Basso") + std::string(1, '\0'), SoundOption::glass},
         {"", SoundOption::glass},
     };
     for (const auto& [bytes, expected] : cases) {
