@@ -57,6 +57,7 @@ DesktopStatusItem::DesktopStatusItem(ClickGesture& gesture, Dispatcher dispatch,
     m_stripDelay.setSingleShot(true);
     m_stripDelay.setInterval(patienceForHost);
     connect(&m_stripDelay, &QTimer::timeout, this, &DesktopStatusItem::showStrip);
+    connect(&m_hosts, &StatusHostMonitor::watcherMissing, this, &DesktopStatusItem::showStrip);
     connect(&m_hosts, &StatusHostMonitor::watcherAppeared, this, [this] { m_item.registerWithWatcher(); });
     connect(&m_hosts, &StatusHostMonitor::hostChanged, this, &DesktopStatusItem::hostChanged);
     qApp->installEventFilter(this);
@@ -164,6 +165,7 @@ void DesktopStatusItem::hostChanged()
 
 void DesktopStatusItem::showStrip()
 {
+    m_stripDelay.stop();
     m_strip = std::make_unique<StripWindow>([this](ClickEvent::Kind kind, bool control) { clicked({kind, control}); });
     m_strip->setTextFont(m_font);
     m_strip->setToolTip(m_toolTip);

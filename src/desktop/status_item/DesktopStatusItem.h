@@ -24,7 +24,8 @@ class StripWindow;
 /// The program's status item on whatever this desktop has: an entry in its panel bar, in the form that
 /// the bar can show, or else a small window.
 ///
-/// The window comes when there has been no host for two seconds and goes when there is one. Silent and
+/// The window comes at the start when nobody takes items in, and otherwise when there has been no host for two
+/// seconds. It goes when there is one. Silent and
 /// idle while nothing changes. Main thread only.
 class DesktopStatusItem final : public QObject, public StatusItem, private StatusItemButton {
     Q_OBJECT

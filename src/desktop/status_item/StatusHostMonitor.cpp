@@ -48,6 +48,8 @@ StatusHostMonitor::StatusHostMonitor(QDBusConnection bus) :
         [this](const QDBusPendingReply<QString>& owner) {
             if (owner.isValid())
                 watcherOwnerChanged(owner.value());
+            else if (m_owner.isEmpty())
+                Q_EMIT watcherMissing();
         });
 }
 

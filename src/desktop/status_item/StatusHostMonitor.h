@@ -26,6 +26,8 @@ public:
     [[nodiscard]] const std::optional<StatusHostFacts>& host() const { return m_host; }
 
 Q_SIGNALS:
+    /// At the start there is no watcher, nor is a host about to come.
+    void watcherMissing();
     /// A new watcher owns the well-known name, and knows of no item yet.
     void watcherAppeared();
     void hostChanged();

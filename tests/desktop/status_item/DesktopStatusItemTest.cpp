@@ -138,6 +138,8 @@ TEST_F(DesktopStatusItemTest, LeavesAClickAloneThatBelongsToThePressWhichHidTheP
 
 TEST_F(DesktopStatusItemTest, IsNowhereAsLongAsNoClickHasSaidWhere)
 {
+    const FakeWatcher watcher;
+    ASSERT_TRUE(eventually([&] { return pictures().size() == 1; }));
     EXPECT_EQ(item->button()->frame(), std::nullopt);
 
     for (const auto& absurd : {std::pair(INT_MAX, INT_MIN), std::pair(-1, -1), std::pair(1 << 30, 0)})
@@ -147,20 +149,28 @@ TEST_F(DesktopStatusItemTest, IsNowhereAsLongAsNoClickHasSaidWhere)
     EXPECT_EQ(item->button()->frame(), std::nullopt);
 }
 
-TEST_F(DesktopStatusItemTest, StandsInAStripWithoutAHostAndLeavesItForOne)
+TEST_F(DesktopStatusItemTest, StandsInAStripAtOnceWhereThereIsNoWatcher)
 {
-    EXPECT_EQ(shown<StripWindow>(), nullptr);
+    QElapsedTimer clock;
+    clock.start();
+
+    ASSERT_TRUE(eventually([] { return shown<StripWindow>() != nullptr; }));
+
+    EXPECT_LT(clock.elapsed(), 1000);
+    EXPECT_TRUE(item->button()->frame().has_value());
+}
+
+TEST_F(DesktopStatusItemTest, WaitsAMomentForTheNextHostAndLeavesTheStripForIt)
+{
+    {
+        FakeWatcher watcher;
+        ASSERT_TRUE(eventually([&] { return pictures().size() == 1; }));
+        EXPECT_EQ(shown<StripWindow>(), nullptr);
+    }
     QElapsedTimer clock;
     clock.start();
     ASSERT_TRUE(eventually([] { return shown<StripWindow>() != nullptr; }));
     EXPECT_GE(clock.elapsed(), 1500);
-    EXPECT_TRUE(item->button()->frame().has_value());
-
-    {
-        FakeWatcher watcher;
-        ASSERT_TRUE(eventually([] { return shown<StripWindow>() == nullptr; }));
-    }
-    ASSERT_TRUE(eventually([] { return shown<StripWindow>() != nullptr; }));
 
     FakeWatcher withoutHost(false);
     ASSERT_TRUE(eventually([&] { return !withoutHost.items.isEmpty(); }));

@@ -75,15 +75,17 @@ class TheStrip(unittest.TestCase):
         self.click(button=2)
         wait_for(lambda: self.velto.card_is_visible)
 
-    def test_the_card_stands_under_it(self):
+    def test_the_card_stands_under_it_from_the_launch_on(self):
+        _, y, _, height = self.velto.strip.rectangle
+        left, top, width, _ = self.velto.card.rectangle
+        self.assertEqual((left + width, top), (1280, y + height + 6))
+
         self.click()
         wait_for(lambda: not self.velto.card_is_visible)
         self.click()
         wait_for(lambda: self.velto.card_is_visible)
 
-        _, y, _, height = self.velto.strip.rectangle
-        left, top, width, _ = self.velto.card.rectangle
-        self.assertEqual((left + width, top), (1280, y + height + 6))
+        self.assertEqual(self.velto.card.rectangle[:2], (left, top))
 
     def test_a_preset_is_chosen_with_the_mouse_and_the_card_stays(self):
         self.click(button=3)
