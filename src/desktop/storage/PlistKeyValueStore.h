@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/storage/PropertyList.h"
+#include "desktop/storage/PropertyListFile.h"
 #include "platform/KeyValueStore.h"
 
 #include <filesystem>
@@ -10,12 +10,11 @@ namespace velto {
 
 /// Keeps the user's values in a property-list file of their own.
 ///
-/// The file is read once, when this is made; nothing is written before the first assignment. Every
-/// assignment replaces the file atomically and durably. A file that can't be read as a property list
-/// is moved aside first, as "<name>.corrupt-<time>". A symbolic link stays one: its target is replaced.
+/// The file is read once, when this is made; nothing is written before the first assignment. What can't be
+/// written is said once on standard error.
 class PlistKeyValueStore final : public KeyValueStore {
 public:
-    /// `path` is absolute; folders that are missing are made on the first assignment.
+    /// `path` is absolute.
     explicit PlistKeyValueStore(std::filesystem::path path);
 
     /// "velto/defaults.plist" in the user's configuration folder.
@@ -25,12 +24,11 @@ public:
     void set(std::string_view key, StoredValue value) override;
 
 private:
-    void load();
-    [[nodiscard]] bool save();
-
     std::filesystem::path m_path;
+    PropertyListFile m_file;
     PropertyList m_values;
-    bool m_holdsForeignFile = false; ///< What lies at the path is not ours to replace.
+    PropertyListFile::Values m_unwritten;
+    bool m_isFailing = false;
 };
 
 } // namespace velto

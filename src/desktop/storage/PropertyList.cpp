@@ -167,6 +167,8 @@ void PropertyList::Free::operator()(void* node) const
 
 PropertyList::PropertyList() : m_root(plist_new_dict()) { }
 
+PropertyList::PropertyList(const PropertyList& other) : m_root(plist_copy(other.m_root.get())) { }
+
 PropertyList::PropertyList(Node root) : m_root(std::move(root)) { }
 
 PropertyList::Node PropertyList::parseNode(std::string_view bytes)

@@ -21,6 +21,10 @@ public:
     static constexpr int maximumDepth = 64;
 
     PropertyList();
+    PropertyList(const PropertyList& other);
+    PropertyList(PropertyList&&) = default;
+    PropertyList& operator=(PropertyList&&) = default;
+    ~PropertyList() = default;
 
     /// Reads the XML and the binary form. Absent when `bytes` are neither, have another root, can't be
     /// written as XML, or exceed the maximum size or depth.

@@ -17,6 +17,7 @@
 #include <thread>
 #include <vector>
 
+#include <pwd.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -68,6 +69,8 @@ protected:
         return found;
     }
 
+    static constexpr const char* storedFocus
+        = "<plist><dict><key>focusMinutes</key><integer>40</integer></dict></plist>";
     TemporaryFolder folder;
     const fs::path file = folder.path() / "config" / "velto" / "defaults.plist";
 };
@@ -315,9 +318,9 @@ TEST_F(PlistKeyValueStoreTest, AReadOnlyFolderCostsNothingAndTheNextAssignmentTr
     EXPECT_EQ(PlistKeyValueStore{file}.value<std::int64_t>("breakMinutes"), 7);
 }
 
-TEST_F(PlistKeyValueStoreTest, AFileThatMayNotBeReadIsNeitherLostNorOverwritten)
+TEST_F(PlistKeyValueStoreTest, AFileThatMayNotBeReadStaysUntilItMay)
 {
-    write("<plist><dict><key>focusMinutes</key><integer>40</integer></dict></plist>", file);
+    write(storedFocus, file);
     fs::permissions(folder.path(), fs::perms{0755});
 
     const bool held = inAnotherProcess([&] {
@@ -332,12 +335,155 @@ TEST_F(PlistKeyValueStoreTest, AFileThatMayNotBeReadIsNeitherLostNorOverwritten)
         fs::permissions(file, fs::perms{0});
         PlistKeyValueStore store{file};
         store.set("breakMinutes", std::int64_t{7});
-        return corruptOnes().size() == 1 && ::chmod(corruptOnes().front().c_str(), 0600) == 0;
+        const bool isUntouched = modeOf(file) == 0 && namesIn(file.parent_path()).size() == 1;
+
+        fs::permissions(file, fs::perms{0600});
+        store.set("autoTransition", true);
+        return isUntouched;
     });
 
-    ASSERT_TRUE(held);
-    EXPECT_EQ(PlistKeyValueStore{corruptOnes().front()}.value<std::int64_t>("focusMinutes"), 40);
-    EXPECT_EQ(PlistKeyValueStore{file}.value<std::int64_t>("breakMinutes"), 7);
+    EXPECT_TRUE(held);
+    const PlistKeyValueStore store{file};
+    EXPECT_EQ(store.value<std::int64_t>("focusMinutes"), 40);
+    EXPECT_EQ(store.value<std::int64_t>("breakMinutes"), 7);
+    EXPECT_EQ(store.value<bool>("autoTransition"), true);
+}
+
+TEST_F(PlistKeyValueStoreTest, AFileThatCannotBeReadNowStaysUntilItCan)
+{
+    write(storedFocus, file);
+
+    const bool held = inAnotherProcess([&] {
+        rlimit limit{};
+        ::getrlimit(RLIMIT_NOFILE, &limit);
+        const rlimit none{0, limit.rlim_max};
+        ::setrlimit(RLIMIT_NOFILE, &none);
+        PlistKeyValueStore store{file};
+        const bool isDefault = !store.object("focusMinutes");
+        store.set("breakMinutes", std::int64_t{7});
+
+        ::setrlimit(RLIMIT_NOFILE, &limit);
+        const bool isUntouched = read(file) == storedFocus && namesIn(file.parent_path()).size() == 1;
+        store.set("autoTransition", true);
+        return isDefault && isUntouched;
+    });
+
+    EXPECT_TRUE(held);
+    const PlistKeyValueStore store{file};
+    EXPECT_EQ(store.value<std::int64_t>("focusMinutes"), 40);
+    EXPECT_EQ(store.value<std::int64_t>("breakMinutes"), 7);
+    EXPECT_EQ(store.value<bool>("autoTransition"), true);
+    EXPECT_TRUE(corruptOnes().empty());
+}
+
+TEST_F(PlistKeyValueStoreTest, WhatAnotherHandChangedStays)
+{
+    PlistKeyValueStore store{file};
+    store.set("focusMinutes", std::int64_t{50});
+    PlistKeyValueStore other{file};
+    store.set("breakMinutes", std::int64_t{7});
+
+    other.set("focusMinutes", std::int64_t{40});
+    other.set("theirs", std::string{"kept"});
+    store.set("autoTransition", true);
+
+    const PlistKeyValueStore next{file};
+    EXPECT_EQ(next.value<std::int64_t>("focusMinutes"), 40);
+    EXPECT_EQ(next.value<std::int64_t>("breakMinutes"), 7);
+    EXPECT_EQ(next.value<std::string>("theirs"), "kept");
+    EXPECT_EQ(next.value<bool>("autoTransition"), true);
+}
+
+TEST_F(PlistKeyValueStoreTest, ManyWhoWriteAtOnceLoseNothing)
+{
+    constexpr int writers = 8;
+    constexpr int assignments = 20;
+    const auto keyOf = [](int writer, int i) { return std::to_string(writer).append(".").append(std::to_string(i)); };
+    std::vector<pid_t> children;
+    for (int writer = 0; writer < writers; ++writer) {
+        children.push_back(::fork());
+        if (children.back() == 0) {
+            {
+                PlistKeyValueStore store{file};
+                for (int i = 0; i < assignments; ++i)
+                    store.set(keyOf(writer, i), std::int64_t{i});
+            }
+            ::_exit(EXIT_SUCCESS);
+        }
+    }
+    for (const pid_t child : children)
+        ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+
+    const PlistKeyValueStore store{file};
+    for (int writer = 0; writer < writers; ++writer)
+        for (int i = 0; i < assignments; ++i)
+            EXPECT_EQ(store.value<std::int64_t>(keyOf(writer, i)), i);
+    EXPECT_EQ(namesIn(file.parent_path()), std::vector<std::string>{"defaults.plist"});
+}
+
+TEST_F(PlistKeyValueStoreTest, ABrokenFilePutThereMeanwhileIsMovedAsideAndNothingIsLost)
+{
+    PlistKeyValueStore store{file};
+    store.set("focusMinutes", std::int64_t{50});
+    write("broken", file);
+
+    store.set("breakMinutes", std::int64_t{7});
+
+    ASSERT_EQ(corruptOnes().size(), 1U);
+    EXPECT_EQ(read(corruptOnes().front()), "broken");
+    const PlistKeyValueStore next{file};
+    EXPECT_EQ(next.value<std::int64_t>("focusMinutes"), 50);
+    EXPECT_EQ(next.value<std::int64_t>("breakMinutes"), 7);
+}
+
+TEST_F(PlistKeyValueStoreTest, AFileThatWasRemovedMeanwhileIsWrittenWhole)
+{
+    PlistKeyValueStore store{file};
+    store.set("focusMinutes", std::int64_t{50});
+    fs::remove_all(file.parent_path());
+
+    store.set("breakMinutes", std::int64_t{7});
+
+    const PlistKeyValueStore next{file};
+    EXPECT_EQ(next.value<std::int64_t>("focusMinutes"), 50);
+    EXPECT_EQ(next.value<std::int64_t>("breakMinutes"), 7);
+}
+
+TEST_F(PlistKeyValueStoreTest, WhatAKilledProcessLeftIsRemovedAtTheStart)
+{
+    write(storedFocus, file);
+    write("half", file.string() + ".tmp-a1B2c3");
+    write("mine", file.string() + ".backup");
+
+    const PlistKeyValueStore store{file};
+
+    EXPECT_EQ(namesIn(file.parent_path()), (std::vector<std::string>{"defaults.plist", "defaults.plist.backup"}));
+}
+
+TEST_F(PlistKeyValueStoreTest, SettingsThatCannotBeSavedAreSaidOnce)
+{
+    fs::create_directories(file);
+    testing::internal::CaptureStderr();
+
+    {
+        PlistKeyValueStore store{file};
+        store.set("focusMinutes", std::int64_t{50});
+        store.set("focusMinutes", std::int64_t{51});
+    }
+
+    EXPECT_EQ(
+        testing::internal::GetCapturedStderr(), "velto: settings not saved: " + file.string() + ": Is a directory\n");
+}
+
+TEST_F(PlistKeyValueStoreTest, WhatCouldNotBeReadAgainIsNotWritten)
+{
+    PlistKeyValueStore store{file};
+    store.set("focusMinutes", std::int64_t{50});
+    store.set("focusCustomURL", std::string(PropertyList::maximumSize, 'x'));
+
+    EXPECT_EQ(PlistKeyValueStore{file}.value<std::int64_t>("focusMinutes"), 50);
+    store.set("focusCustomURL", std::string{"short"});
+    EXPECT_EQ(PlistKeyValueStore{file}.value<std::string>("focusCustomURL"), "short");
 }
 
 TEST_F(PlistKeyValueStoreTest, AKillAtAnyMomentLeavesTheLastCompleteAssignment)
@@ -397,6 +543,14 @@ TEST(PlistKeyValueStorePathTest, IsInTheUsersConfigurationFolder)
     }
     ::unsetenv("XDG_CONFIG_HOME");
     EXPECT_EQ(PlistKeyValueStore::defaultPath(), "/home/somebody/.config/velto/defaults.plist");
+
+    const fs::path home{::getpwuid(::getuid())->pw_dir};
+    for (const char* unusable : {"", "relative/folder"}) {
+        ::setenv("HOME", unusable, 1);
+        EXPECT_EQ(PlistKeyValueStore::defaultPath(), home / ".config/velto/defaults.plist");
+    }
+    ::unsetenv("HOME");
+    EXPECT_EQ(PlistKeyValueStore::defaultPath(), home / ".config/velto/defaults.plist");
 }
 
 } // namespace velto
