@@ -6,11 +6,30 @@
 
 namespace velto {
 
+namespace {
+
+/// An address as one line, whatever is in it.
+std::string inOneLine(const std::string& url)
+{
+    std::string line;
+    for (const char c : url) {
+        if (c == '\n')
+            line += "%0A";
+        else if (c == '\r')
+            line += "%0D";
+        else
+            line += c;
+    }
+    return line;
+}
+
+} // namespace
+
 void MusicPlayer::play(const std::string& url, float volume)
 {
     stop();
     if (url.empty() || !m_players.accepts(url)) {
-        std::cout << "Invalid music URL: " << url << std::endl;
+        std::cout << "Invalid music URL: " << inOneLine(url) << std::endl;
         return;
     }
 
@@ -19,7 +38,7 @@ void MusicPlayer::play(const std::string& url, float volume)
     m_player->setVolume(volume);
     m_player->play();
     isPlaying.set(true);
-    std::cout << "Started playing music from: " << url << std::endl;
+    std::cout << "Started playing music from: " << inOneLine(url) << std::endl;
 }
 
 void MusicPlayer::stop()

@@ -15,7 +15,8 @@ public:
     /// are accepted and limited to it.
     virtual void setVolume(float volume) = 0;
 
-    /// Opens the stream. Until `pause()` the player reconnects by itself after any failure.
+    /// Opens the stream, if its address is one of the web (http or https), else nothing. Until `pause()` the player
+    /// reconnects by itself after any failure.
     virtual void play() = 0;
 
     /// Halts and drops the connection at once.
@@ -26,7 +27,7 @@ class StreamPlayerFactory {
 public:
     virtual ~StreamPlayerFactory() = default;
 
-    /// Whether `url` is a web address (http or https) that a player can be made for.
+    /// Whether a URL can be made of `url`.
     [[nodiscard]] virtual bool accepts(const std::string& url) const = 0;
 
     /// `url` must be one that is accepted. Never null.

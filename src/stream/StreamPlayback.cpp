@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "stream/StreamPlayback.h"
 
-#include "music/StreamAddress.h"
+#include "stream/WebAddress.h"
 
 #include <gio/gio.h>
 #include <unistd.h>
@@ -108,7 +108,7 @@ std::string redirectionTarget(const std::string& from, const std::string& locati
     g_free(resolved);
 
     const auto isProtected = [](const std::string& url) { return g_ascii_strncasecmp(url.c_str(), "https:", 6) == 0; };
-    if (!isStreamAddress(target) || (isProtected(from) && !isProtected(target)))
+    if (!isWebAddress(target) || (isProtected(from) && !isProtected(target)))
         return {};
     return target;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "music/StreamAddress.h"
 #include "stream/StreamPlayback.h"
+#include "stream/WebAddress.h"
 
 #include <poll.h>
 #include <sys/prctl.h>
@@ -83,7 +83,7 @@ int main(int argc, char** argv)
 
     float level = 0;
     int redirections = 0;
-    if (argc != 4 || !isStreamAddress(argv[1]) || !parse(argv[2], level) || !parse(argv[3], redirections)) {
+    if (argc != 4 || !isWebAddress(argv[1]) || !parse(argv[2], level) || !parse(argv[3], redirections)) {
         std::cerr << "velto-stream ADDRESS VOLUME REDIRECTIONS" << std::endl;
         return EXIT_FAILURE;
     }

@@ -15,6 +15,15 @@ namespace velto {
 
 using std::chrono::steady_clock;
 
+namespace {
+
+bool isOnTheWeb(const QUrl& url)
+{
+    return (url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https")) && !url.host().isEmpty();
+}
+
+} // namespace
+
 void ProcessStreamPlayer::Killer::operator()(QProcess* process) const
 {
     process->disconnect();
@@ -30,7 +39,7 @@ void ProcessStreamPlayer::Killer::operator()(QProcess* process) const
     process->kill();
 }
 
-ProcessStreamPlayer::ProcessStreamPlayer(std::string url, std::filesystem::path program, RunLoop& runLoop) :
+ProcessStreamPlayer::ProcessStreamPlayer(QUrl url, std::filesystem::path program, RunLoop& runLoop) :
     m_url(std::move(url)),
     m_program(std::move(program)),
     m_runLoop(runLoop),
@@ -50,6 +59,10 @@ void ProcessStreamPlayer::setVolume(float volume)
 void ProcessStreamPlayer::play()
 {
     pause();
+    if (!isOnTheWeb(m_url)) {
+        qCDebug(audioLog) << "not opened, since it is not on the web:" << m_url;
+        return;
+    }
     m_retryDelay.reset();
     open();
 }
@@ -72,7 +85,7 @@ void ProcessStreamPlayer::open()
     }
     m_process.reset(new QProcess);
     m_process->setProgram(program);
-    m_process->setArguments({QString::fromStdString(m_url), QString::number(m_volume), QStringLiteral("0")});
+    m_process->setArguments({QString::fromLatin1(m_url.toEncoded()), QString::number(m_volume), QStringLiteral("0")});
     m_process->setStandardOutputFile(QProcess::nullDevice());
     if (audioLog().isDebugEnabled())
         m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);

@@ -5,10 +5,11 @@
 #include "observation/Subscription.h"
 #include "platform/StreamPlayer.h"
 
+#include <QUrl>
+
 #include <chrono>
 #include <filesystem>
 #include <memory>
-#include <string>
 
 class QProcess;
 
@@ -23,7 +24,7 @@ class RunLoop;
 class ProcessStreamPlayer final : public StreamPlayer {
 public:
     /// `program` plays one stream, see stream/main.cpp. `runLoop` must outlive this.
-    ProcessStreamPlayer(std::string url, std::filesystem::path program, RunLoop& runLoop);
+    ProcessStreamPlayer(QUrl url, std::filesystem::path program, RunLoop& runLoop);
     ~ProcessStreamPlayer() override;
 
     void setVolume(float volume) override;
@@ -40,7 +41,7 @@ private:
     void open();
     void onEnd();
 
-    const std::string m_url;
+    const QUrl m_url;
     const std::filesystem::path m_program;
     RunLoop& m_runLoop;
     float m_volume = 1;

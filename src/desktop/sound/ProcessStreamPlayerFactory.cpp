@@ -2,7 +2,8 @@
 #include "desktop/sound/ProcessStreamPlayerFactory.h"
 
 #include "desktop/sound/ProcessStreamPlayer.h"
-#include "music/StreamAddress.h"
+
+#include <QUrl>
 
 #include <utility>
 
@@ -19,14 +20,24 @@ ProcessStreamPlayerFactory::ProcessStreamPlayerFactory(std::filesystem::path pro
 {
 }
 
+namespace {
+
+/// As tolerant as the address bar of a browser.
+QUrl urlOf(const std::string& text)
+{
+    return QUrl(QString::fromStdString(text));
+}
+
+} // namespace
+
 bool ProcessStreamPlayerFactory::accepts(const std::string& url) const
 {
-    return isStreamAddress(url);
+    return urlOf(url).isValid();
 }
 
 std::unique_ptr<StreamPlayer> ProcessStreamPlayerFactory::makePlayer(const std::string& url)
 {
-    return std::make_unique<ProcessStreamPlayer>(url, m_program, m_runLoop);
+    return std::make_unique<ProcessStreamPlayer>(urlOf(url), m_program, m_runLoop);
 }
 
 } // namespace velto

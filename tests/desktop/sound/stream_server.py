@@ -78,7 +78,7 @@ class Connection:
             self.wait(0.05)
 
     def answer(self, path):
-        name, _, rest = path.lstrip("/").partition("/")
+        name, _, rest = path.partition("?")[0].lstrip("/").partition("/")
         match name:
             case "tone.mp3":
                 self.head()

@@ -10,17 +10,14 @@ from guard import processes_with
 from sound import ENVIRONMENT, settings_for
 
 UNUSABLE = [
-    " ", "radio", "no address", "example.org/stream", "//example.org/stream", "/stream", "://example.org", "http",
-    "http:", "http:/", "http://", "http:///stream", "http:example.org", "https://:8000/", "http://user@/",
-    " http://example.org", "http://example.org ", "http://exam ple.org/", "http://example.org/a b",
-    "http://example.org/\tstream", "http://example.org/\nstream", "http://example.org/\r\nHost: other", "\n",
-    "http://example.org/\x01", "http://example.org/\x7f", "http://example.org:port/", "http://example.org:65536/",
-    "http://example.org:0/", "http://example.org:-1/", "http://example.org:80:80/", "http://[::1/", "http://[]/",
-    "http://[::1]x/", "http://a@b@example.org/", "http://example.org/%", "http://example.org/%zz",
-    "http://example.org/<a>", "http://example.org/a\\b", "http://example.org/{a}", "http://example.org/ü",
-    "http://bücher.example/", "file:///etc/passwd", "ftp://example.org/a.mp3", "rtsp://example.org/",
-    "data:audio/mpeg;base64,AAAA", "javascript:alert(1)", "httpx://example.org/",
-    "http://example.org/" + "a" * 500000,
+    "://example.org", " http://example.org", "http://exam ple.org/", "http://example.org:port/",
+    "http://example.org:65536/", "http://example.org:80:80/", "http://[::1/", "http://[]/", "http://a@b@example.org/",
+    "http://[\n\r\n", "http://[/" + "a" * 500000,
+]
+
+NOT_ON_THE_WEB = [
+    " ", "radio", "example.org/stream", "//127.0.0.1/stream", "http:", "http:///stream", "file:///etc/passwd",
+    "ftp://127.0.0.1/a.mp3", "data:audio/mpeg;base64,AAAA", "\n", "ftp://127.0.0.1/" + "a" * 500000,
 ]
 
 
@@ -45,11 +42,17 @@ class AnAddress(unittest.TestCase):
         """Whether a process of its own tries to."""
         return len(list(processes_with(f"VELTO_RUN={desktop.folder}"))) > 1
 
-    def test_that_is_unusable_is_reported_as_it_is(self):
-        for address in UNUSABLE:
+    def test_that_is_unusable_is_reported_in_one_line(self):
+        self.assert_not_played("Invalid music URL: ", UNUSABLE)
+
+    def test_that_is_not_on_the_web_is_told_and_not_opened(self):
+        self.assert_not_played("Started playing music from: ", NOT_ON_THE_WEB)
+
+    def assert_not_played(self, told, addresses):
+        for address in addresses:
             with self.subTest(address[:60]):
                 velto = self.start_focus_with(address)
-                line = f"Invalid music URL: {address}\n".encode()
+                line = (told + address.replace("\r", "%0D").replace("\n", "%0A") + "\n").encode()
                 wait_for(lambda: len(velto.printed) >= len(line), what="the line")
                 self.assertTrue(velto.printed == line, velto.printed[:200])
                 wait_for(lambda: velto.item.menu().find("Pause Focus"), what="a focus that runs")

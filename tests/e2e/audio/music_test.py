@@ -143,13 +143,13 @@ class Music(MusicStory):
         self.assertLess(max(abs(when - seen[0][0] - second) for second, (when, _, _) in enumerate(seen)), 0.25)
 
     def test_an_unusable_address_is_reported_and_nothing_else(self):
-        self.velto = self.desktop.start_velto(settings_for("no address"), ENVIRONMENT)
+        self.velto = self.desktop.start_velto(settings_for("http://no address"), ENVIRONMENT)
         wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
 
         self.velto.press("Start")
         wait_for(lambda: self.velto.output, what="a line")
 
-        self.assertEqual(self.velto.output, ["Invalid music URL: no address"])
+        self.assertEqual(self.velto.output, ["Invalid music URL: http://no address"])
         wait_for(lambda: self.velto.time == "24:58", what="a timer that runs")
         self.assertEqual(self.desktop.log("velto"), "")
 

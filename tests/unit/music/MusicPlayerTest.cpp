@@ -140,6 +140,18 @@ TEST_F(MusicPlayerTest, AnEmptyAddressIsReportedWithNothingAfterTheColon)
     expectState(false, std::nullopt);
 }
 
+TEST_F(MusicPlayerTest, AnAddressWithLineBreaksIsReportedInOneLine)
+{
+    music->play("no\naddress\r\n", 0.25F);
+    music->play("http://radio.example/\n", 0.25F);
+
+    EXPECT_EQ(output.flushed,
+        "Invalid music URL: no%0Aaddress%0D%0A\n"
+        "Started playing music from: http://radio.example/%0A\n");
+    EXPECT_EQ(players.opened, Lines{"http://radio.example/\n"});
+    expectState(true, "http://radio.example/\n");
+}
+
 TEST_F(MusicPlayerTest, PlayHandsTheVolumeOnAsItIs)
 {
     music->play(url, 1.7F);
