@@ -69,6 +69,30 @@ QVariantMap chosen(const QVariantMap& properties, const QStringList& names)
     return result;
 }
 
+constexpr qsizetype mostItems = 1'000;
+constexpr qsizetype mostCharacters = 256;
+
+bool isTooMuch(const QString& text)
+{
+    return text.size() > mostCharacters;
+}
+
+bool isTooMuch(const QStringList& texts)
+{
+    return texts.size() > mostItems || std::ranges::any_of(texts, [](const auto& text) { return isTooMuch(text); });
+}
+
+bool isTooMuch(const QList<int>& numbers)
+{
+    return numbers.size() > mostItems;
+}
+
+bool isTooMuch(const DBusMenuEvents& events)
+{
+    return events.size() > mostItems
+        || std::ranges::any_of(events, [](const auto& event) { return isTooMuch(event.name); });
+}
+
 QString noEntry(int id)
 {
     return QStringLiteral("The menu has no entry %1").arg(id);
@@ -188,22 +212,25 @@ DBusMenuLayout DBusMenu::layoutOf(int id, int depth, const QStringList& property
     DBusMenuLayout layout{id, chosen(node.properties, propertyNames), {}};
     if (depth != 0)
         for (const int child : node.children)
-            layout.children.append(layoutOf(child, depth - 1, propertyNames));
+            layout.children.append(layoutOf(child, std::max(depth, 0) - 1, propertyNames));
     return layout;
 }
 
 void DBusMenu::answer(std::function<QDBusMessage(const QDBusMessage&)> reply)
 {
     setDelayedReply(true);
-    m_answers.run([this, question = message(), reply = std::move(reply)] {
+    const bool isTaken = m_answers.run([this, question = message(), reply = std::move(reply)] {
         if (m_refresh.isActive())
             refresh();
         m_bus.send(reply(question));
     });
+    refuse(!isTaken);
 }
 
 uint DBusMenu::GetLayout(int parentId, int recursionDepth, const QStringList& propertyNames, DBusMenuLayout& /*layout*/)
 {
+    if (refuse(isTooMuch(propertyNames)))
+        return {};
     answer([this, parentId, recursionDepth, propertyNames](const QDBusMessage& question) {
         if (!m_nodes.contains(parentId))
             return question.createErrorReply(QDBusError::InvalidArgs, noEntry(parentId));
@@ -215,6 +242,8 @@ uint DBusMenu::GetLayout(int parentId, int recursionDepth, const QStringList& pr
 
 DBusMenuItems DBusMenu::GetGroupProperties(const QList<int>& ids, const QStringList& propertyNames)
 {
+    if (refuse(isTooMuch(ids) || isTooMuch(propertyNames)))
+        return {};
     answer([this, ids, propertyNames](const QDBusMessage& question) {
         DBusMenuItems items;
         const auto add = [&](int id) {
@@ -233,6 +262,8 @@ DBusMenuItems DBusMenu::GetGroupProperties(const QList<int>& ids, const QStringL
 
 QDBusVariant DBusMenu::GetProperty(int id, const QString& name)
 {
+    if (refuse(isTooMuch(name)))
+        return {};
     if (m_refresh.isActive())
         refresh();
     const auto node = m_nodes.find(id);
@@ -250,12 +281,14 @@ QDBusVariant DBusMenu::GetProperty(int id, const QString& name)
 
 void DBusMenu::Event(int id, const QString& eventId, const QDBusVariant& /*data*/, uint /*timestamp*/)
 {
-    if (!handleEvent(id, eventId))
+    if (!refuse(isTooMuch(eventId)) && !handleEvent(id, eventId))
         refuseUnknown(id);
 }
 
 QList<int> DBusMenu::EventGroup(const DBusMenuEvents& events)
 {
+    if (refuse(isTooMuch(events)))
+        return {};
     QList<int> unknown;
     for (const auto& event : events)
         if (!handleEvent(event.id, event.name))
@@ -276,6 +309,8 @@ bool DBusMenu::AboutToShow(int id)
 
 QList<int> DBusMenu::AboutToShowGroup(const QList<int>& ids, QList<int>& idErrors)
 {
+    if (refuse(isTooMuch(ids)))
+        return {};
     QList<int> needUpdate;
     for (const int id : ids) {
         if (!m_nodes.contains(id))
@@ -319,6 +354,13 @@ bool DBusMenu::handleAboutToShow(int id)
     }
     refresh();
     return m_revision != revision;
+}
+
+bool DBusMenu::refuse(bool isTooMuch)
+{
+    if (isTooMuch)
+        sendErrorReply(QDBusError::LimitsExceeded, QStringLiteral("That is more than a menu has a use for"));
+    return isTooMuch;
 }
 
 void DBusMenu::refuseUnknown(int id)

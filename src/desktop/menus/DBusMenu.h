@@ -49,6 +49,7 @@ public:
     /// Values in the menu may have changed; hosts hear of it in the next turn.
     void menuDidChange();
 
+    // Calls with lists of more than 1,000 items or texts of more than 256 characters are answered with LimitsExceeded.
 public Q_SLOTS:
     Q_SCRIPTABLE uint GetLayout(
         int parentId, int recursionDepth, const QStringList& propertyNames, velto::DBusMenuLayout& layout);
@@ -87,6 +88,8 @@ private:
     bool handleEvent(int id, const QString& name);
     bool handleAboutToShow(int id);
     void refuseUnknown(int id);
+    /// Answers the call being handled with an error if `isTooMuch`, and says whether it was.
+    bool refuse(bool isTooMuch);
 
     QDBusConnection m_bus;
     Handlers m_handlers;

@@ -20,16 +20,19 @@ Throttle::Throttle()
     m_timer.callOnTimeout([this] { runWaiting(); });
 }
 
-void Throttle::run(std::function<void()> work)
+bool Throttle::run(std::function<void()> work)
 {
     if (!m_timer.isActive())
         m_timer.start();
-    if (m_runs == mostRuns) {
-        m_waiting.push_back(std::move(work));
-        return;
+    if (m_runs < mostRuns) {
+        ++m_runs;
+        work();
+        return true;
     }
-    ++m_runs;
-    work();
+    if (m_waiting.size() == mostWaiting)
+        return false;
+    m_waiting.push_back(std::move(work));
+    return true;
 }
 
 void Throttle::runWaiting()

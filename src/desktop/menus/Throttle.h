@@ -12,9 +12,12 @@ namespace velto {
 /// has its turn in between. Main thread only.
 class Throttle {
 public:
+    static constexpr int mostWaiting = 10'000;
+
     Throttle();
 
-    void run(std::function<void()> work);
+    /// False when too many works wait already; then `work` is dropped.
+    [[nodiscard]] bool run(std::function<void()> work);
 
 private:
     void runWaiting();

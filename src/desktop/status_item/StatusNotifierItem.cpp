@@ -12,6 +12,12 @@
 
 namespace velto {
 
+namespace {
+
+constexpr qsizetype longestToken = 256;
+
+} // namespace
+
 StatusNotifierItem::StatusNotifierItem(QDBusConnection bus, ClickHandler onClick) :
     m_bus(std::move(bus)),
     m_onClick(std::move(onClick))
@@ -80,7 +86,9 @@ void StatusNotifierItem::ContextMenu(int x, int y)
 
 void StatusNotifierItem::ProvideXdgActivationToken(const QString& token)
 {
-    if (x11::connection())
+    if (token.size() > longestToken)
+        sendErrorReply(QDBusError::LimitsExceeded, QStringLiteral("No token is that long"));
+    else if (x11::connection())
         x11::endStartup(token.toStdString());
 }
 

@@ -5,6 +5,7 @@
 #include "platform/Application.h"
 
 #include <QDBusConnection>
+#include <QDBusContext>
 #include <QDBusObjectPath>
 #include <QObject>
 #include <QPoint>
@@ -16,7 +17,7 @@ namespace velto {
 /// The program's entry in the panel bar of the session, as an object on the bus.
 ///
 /// Says something on the bus only when what a host shows has changed. Main thread only.
-class StatusNotifierItem : public QObject {
+class StatusNotifierItem : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierItem")
 
@@ -60,6 +61,7 @@ public Q_SLOTS:
     Q_SCRIPTABLE void SecondaryActivate(int x, int y);
     Q_SCRIPTABLE void ContextMenu(int x, int y);
     /// Comes before each click on some hosts, which wait for what it is used for with a busy pointer.
+    /// One of more than 256 characters is answered with LimitsExceeded.
     Q_SCRIPTABLE void ProvideXdgActivationToken(const QString& token);
     Q_SCRIPTABLE void Scroll(int delta, const QString& orientation);
 

@@ -326,6 +326,30 @@ TEST_F(DBusMenuTest, AnswersUnknownEntriesWithErrors)
     EXPECT_EQ(call("GetProperty", {0, "nothing"}).type(), error);
 }
 
+TEST_F(DBusMenuTest, RefusesMoreThanAnyHostHasReasonToSend)
+{
+    const QString longName(257, QLatin1Char('x'));
+    const QStringList manyNames(1001, QStringLiteral("label"));
+    QList<int> manyIds(1001, 1);
+    DBusMenuEvents manyEvents(1001, {1, QStringLiteral("opened"), QDBusVariant(0), 0});
+
+    for (const auto& reply : {call("GetLayout", {0, -1, manyNames}), call("GetLayout", {0, -1, QStringList{longName}}),
+             call("GetGroupProperties", {QVariant::fromValue(manyIds), QStringList()}),
+             call("GetGroupProperties", {QVariant::fromValue(QList<int>{1}), manyNames}),
+             call("GetProperty", {1, longName}),
+             call("Event", {1, longName, QVariant::fromValue(QDBusVariant(0)), QVariant::fromValue(uint(0))}),
+             call("EventGroup", {QVariant::fromValue(manyEvents)}),
+             call("AboutToShowGroup", {QVariant::fromValue(manyIds)})})
+        EXPECT_EQ(reply.errorName(), QStringLiteral("org.freedesktop.DBus.Error.LimitsExceeded"));
+    EXPECT_TRUE(log.empty());
+}
+
+TEST_F(DBusMenuTest, TakesEveryNegativeDepthForAllOfTheMenu)
+{
+    EXPECT_EQ(layout(0, std::numeric_limits<int>::min()).children.size(), 3);
+    EXPECT_EQ(layout(0, std::numeric_limits<int>::min()).children[2].children.size(), 2);
+}
+
 TEST_F(DBusMenuTest, IgnoresUnknownEvents)
 {
     EXPECT_EQ(event(idOf("Start__Focus"), "hovered").type(), QDBusMessage::ReplyMessage);

@@ -15,7 +15,7 @@ TEST(ThrottleTest, RunsAFewWorksAtOnceAndTheRestInOrderAFewATurn)
     std::vector<int> done;
     std::vector<std::size_t> doneByTurn;
     for (int i = 0; i < 35; ++i)
-        throttle.run([&done, i] { done.push_back(i); });
+        ASSERT_TRUE(throttle.run([&done, i] { done.push_back(i); }));
     EXPECT_EQ(done.size(), 10U);
 
     QTimer turn;
@@ -35,12 +35,23 @@ TEST(ThrottleTest, RunsAtOnceAgainAfterARest)
     Throttle throttle;
     int done = 0;
     for (int i = 0; i < 11; ++i)
-        throttle.run([&] { ++done; });
+        ASSERT_TRUE(throttle.run([&] { ++done; }));
     ASSERT_TRUE(QTest::qWaitFor([&] { return done == 11; }, patience));
 
-    throttle.run([&] { ++done; });
+    ASSERT_TRUE(throttle.run([&] { ++done; }));
 
     EXPECT_EQ(done, 12);
+}
+
+TEST(ThrottleTest, TakesNoMoreThanItsQueueHolds)
+{
+    Throttle throttle;
+    int refused = 0;
+
+    for (int i = 0; i < Throttle::mostWaiting + 20; ++i)
+        refused += throttle.run([] {}) ? 0 : 1;
+
+    EXPECT_EQ(refused, 10); // ten ran at once
 }
 
 } // namespace velto

@@ -135,6 +135,14 @@ TEST_F(StatusNotifierItemTest, ForwardsEachKindOfClick)
     EXPECT_EQ(clicks[2], std::pair(ClickEvent::Kind::rightMouseUp, QPoint(12, 22)));
 }
 
+TEST_F(StatusNotifierItemTest, RefusesATokenThatIsTooLong)
+{
+    EXPECT_EQ(client.call(path, interface, "ProvideXdgActivationToken", {QString(256, QLatin1Char('x'))}).type(),
+        QDBusMessage::ReplyMessage);
+    EXPECT_EQ(client.call(path, interface, "ProvideXdgActivationToken", {QString(257, QLatin1Char('x'))}).errorName(),
+        QStringLiteral("org.freedesktop.DBus.Error.LimitsExceeded"));
+}
+
 TEST_F(StatusNotifierItemTest, RefusesCallsOfTheWrongShape)
 {
     for (const auto& arguments : {QVariantList{}, QVariantList{QStringLiteral("here"), QStringLiteral("there")},
