@@ -51,6 +51,11 @@ SettingsForm::SettingsForm(AppSettings& settings, PomodoroTimer& timer) :
     });
 }
 
+SettingsForm::~SettingsForm()
+{
+    cancel();
+}
+
 bool SettingsForm::canApply() const
 {
     return focusMinutes() >= 1 && breakMinutes() >= 1;
@@ -63,6 +68,7 @@ void SettingsForm::preview(SoundOption sound) const
 
 void SettingsForm::apply()
 {
+    m_originalMusicVolume.reset();
     const auto sourceChanged
         = [](MusicPreset oldPreset, MusicPreset newPreset, const std::string& oldURL, const std::string& newURL) {
               return oldPreset != newPreset || (newPreset == MusicPreset::custom && oldURL != newURL);
@@ -117,7 +123,8 @@ void SettingsForm::applyDurations(bool focusChanged, bool breakChanged)
 
 void SettingsForm::cancel()
 {
-    m_timer.musicPlayer().setVolume(m_originalMusicVolume);
+    if (const auto volume = std::exchange(m_originalMusicVolume, std::nullopt))
+        m_timer.musicPlayer().setVolume(*volume);
 }
 
 } // namespace velto

@@ -6,6 +6,7 @@
 #include "settings/SoundOption.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace velto {
@@ -26,6 +27,8 @@ class SettingsForm : public ObservableObject {
 public:
     /// Both must outlive this.
     SettingsForm(AppSettings& settings, PomodoroTimer& timer);
+    /// Cancels what was not applied.
+    ~SettingsForm();
 
     Published<std::int64_t> focusMinutes;
     Published<std::int64_t> breakMinutes;
@@ -51,7 +54,7 @@ public:
     /// what has changed. The timer's own auto-transition is left alone: it follows at the next launch.
     void apply();
 
-    /// Restores the loudness. Nothing else has to be undone.
+    /// Restores the loudness, unless the form was applied. Nothing else has to be undone.
     void cancel();
 
 private:
@@ -59,7 +62,7 @@ private:
 
     AppSettings& m_settings;
     PomodoroTimer& m_timer;
-    const float m_originalMusicVolume;
+    std::optional<float> m_originalMusicVolume; ///< Absent once the form is applied or cancelled.
     Subscription m_volumePreview;
 };
 

@@ -140,6 +140,11 @@ void SettingsSheet::cancel()
     m_dismiss();
 }
 
+void SettingsSheet::closeEvent(QCloseEvent*)
+{
+    cancel();
+}
+
 void SettingsSheet::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);

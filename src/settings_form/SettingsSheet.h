@@ -20,7 +20,7 @@ class ToggleSwitch;
 
 /// The settings form on a card: every setting on one page that scrolls, "Cancel" and "Apply" below it.
 ///
-/// Escape is Cancel, Return outside of a field is Apply, a press beside the controls ends editing.
+/// Escape is Cancel, as is to close it; Return outside of a field is Apply, a press beside the controls ends editing.
 class SettingsSheet : public QWidget {
     Q_OBJECT
 
@@ -32,12 +32,10 @@ public:
     /// Less high where there is less room; the page then scrolls further.
     static constexpr QSize preferredSize{500, 650};
 
-    /// Restores the loudness and closes.
-    void cancel();
-
     [[nodiscard]] QSize sizeHint() const override { return preferredSize; }
 
 protected:
+    void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -45,6 +43,7 @@ protected:
 
 private:
     void apply();
+    void cancel();
     void refresh();
     void keepPageStill();
 

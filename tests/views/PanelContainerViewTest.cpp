@@ -3,11 +3,11 @@
 
 #include "core/PomodoroTimer.h"
 #include "desktop/session/Appearance.h"
-#include "menubar/StatusBarController.h"
 #include "observation/NotificationCenter.h"
 #include "panel/CircularProgressView.h"
 #include "panel/PhaseTitle.h"
 #include "panel/RollingTime.h"
+#include "panel/TimerPanelController.h"
 #include "settings/AppSettings.h"
 #include "style/Button.h"
 #include "style/Colors.h"

@@ -501,6 +501,25 @@ TEST_F(SettingsSheetTest, CancelAndEscapeDismissWithoutWriting)
     EXPECT_THAT(store.writes, IsEmpty());
 }
 
+TEST_F(SettingsSheetTest, ACloseFromOutsideIsCancel)
+{
+    settings.enableFocusMusic.set(true);
+    timer.start();
+    for (const bool isHidden : {false, true}) {
+        open();
+        players.calls.clear();
+        dismissals = 0;
+        find<Slider>("Volume")->setSliderPosition(75);
+        sheet->setHidden(isHidden);
+
+        EXPECT_TRUE(sheet->close());
+
+        EXPECT_THAT(players.calls, ElementsAre("1 volume 0.75", "1 volume 0.25"));
+        EXPECT_EQ(dismissals, 1);
+        EXPECT_THAT(store.writes, IsEmpty());
+    }
+}
+
 TEST_F(SettingsSheetTest, ReturnInAFieldEndsEditingAndOutsideOfOneApplies)
 {
     settings.enableFocusMusic.set(true);

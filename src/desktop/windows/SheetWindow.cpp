@@ -15,11 +15,12 @@ namespace velto {
 SheetWindow::SheetWindow(std::unique_ptr<QWidget> content, QWidget& presenter, Screens& screens,
     std::function<void()> dismiss, Focus focus) :
     FloatingWindow(std::move(content), std::move(dismiss), focus, presenter.window()),
+    m_content(*findChild<QWidget*>({}, Qt::FindDirectChildrenOnly)),
     m_panel(*presenter.window()),
     m_screens(screens),
     m_wantedSize(sizeHint())
 {
-    setWindowTitle(findChild<QWidget*>({}, Qt::FindDirectChildrenOnly)->windowTitle());
+    setWindowTitle(m_content.windowTitle());
     m_panel.installEventFilter(this);
     // Not by window modality: window managers give a modal window the keyboard.
     m_panel.windowHandle()->installEventFilter(this);
@@ -34,6 +35,11 @@ void SheetWindow::setVisible(bool visible)
     if (visible)
         place();
     FloatingWindow::setVisible(visible);
+}
+
+void SheetWindow::closeEvent(QCloseEvent* /*event*/)
+{
+    m_content.close();
 }
 
 bool SheetWindow::eventFilter(QObject* watched, QEvent* event)

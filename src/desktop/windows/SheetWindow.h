@@ -10,7 +10,7 @@ class Screens;
 
 /// A sheet on the panel: a card of its own that hangs from the panel's top edge and goes where the panel
 /// goes, within the usable area of its screen. While it is shown the panel takes no clicks and no keys; other windows
-/// do.
+/// do. Closed by the window manager it closes its content.
 class SheetWindow final : public FloatingWindow {
     Q_OBJECT
 
@@ -23,11 +23,13 @@ public:
     void setVisible(bool visible) override;
 
 protected:
+    void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void place();
 
+    QWidget& m_content;
     QWidget& m_panel;
     const Screens& m_screens;
     QSize m_wantedSize;

@@ -120,6 +120,23 @@ std::unique_ptr<OtherWindow> focusedWindow()
     return window;
 }
 
+/// How often `watched` is told of an event of that type.
+class EventCounter : public QObject {
+public:
+    EventCounter(QObject& watched, QEvent::Type type) : m_type(type) { watched.installEventFilter(this); }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        count += event->type() == m_type;
+        return false;
+    }
+
+    int count = 0;
+
+private:
+    QEvent::Type m_type;
+};
+
 } // namespace
 
 TEST_F(QtPanelWindowTest, ShowingAndHidingIsSeenAtOnce)
@@ -362,6 +379,30 @@ TEST(TakingPanelTest, ShownAgainItLeavesTheKeyboardToTheSheetOnIt)
     EXPECT_TRUE(stays([&] { return QGuiApplication::focusWindow() == sheet.windowHandle(); }));
     ASSERT_TRUE(Desktop::run("xdotool", {"type", "25"}));
     EXPECT_TRUE(eventually([&] { return field->text() == "25"; })) << field->text().toStdString();
+}
+
+TEST_F(QtPanelWindowTest, ACloseOfASheetFromOutsideClosesItsContentAlsoOverAHiddenCard)
+{
+    Desktop::current().startWindowManager();
+    show();
+    QtScreens screens;
+    for (const bool isHidden : {false, true}) {
+        auto* content = new QLineEdit;
+        const EventCounter closes{*content, QEvent::Close};
+        SheetWindow sheet{std::unique_ptr<QWidget>{content}, *surface, screens, [] {}, FloatingWindow::Focus::whenUsed};
+        sheet.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&sheet));
+        sheet.setHidden(isHidden);
+
+        if (isHidden)
+            EXPECT_TRUE(sheet.close()) << "A close that is refused would refuse the end of the session, too.";
+        else
+            x11::request(static_cast<xcb_window_t>(sheet.winId()), "_NET_CLOSE_WINDOW", {});
+
+        EXPECT_TRUE(eventually([&] { return closes.count == 1 && !sheet.isVisible(); }));
+        EXPECT_EQ(panel->isVisible(), !isHidden);
+        panel->orderOut();
+    }
 }
 
 TEST_F(QtPanelWindowTest, WithoutACompositingManagerItIsOpaqueAndCutToItsShape)

@@ -117,6 +117,19 @@ class SettingsForm(unittest.TestCase):
         self.assertTrue(self.velto.card_is_visible)
         self.assertEqual(self.velto.settings, {"hasLaunchedBefore": True})
 
+    def test_a_close_from_outside_is_cancel(self):
+        self.start()
+        sheet = self.open()
+        wait_for(lambda: sheet.number("Focus").has_state("focused"), what="the keyboard in the first field")
+        sheet.type_number("Focus", 10)
+
+        desktop.key("alt+F4")
+
+        wait_for(lambda: not Sheet.is_open(self.velto), what="the form's end")
+        self.assertTrue(self.velto.card_is_visible)
+        self.assertEqual(self.open().number("Focus").text, "25", "A new form starts from the settings")
+        self.assertEqual(self.velto.settings, {"hasLaunchedBefore": True})
+
     def test_a_half_edited_form_hides_and_comes_back_with_the_panel(self):
         self.start()
         sheet = self.open()

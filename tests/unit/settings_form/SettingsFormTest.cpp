@@ -532,6 +532,33 @@ TEST_F(SettingsFormTest, TheLoudnessIsHeardAtOnceAndCancelRestoresIt)
     EXPECT_FALSE(store.value<float>("musicVolume"));
 }
 
+TEST_F(SettingsFormTest, AFormThatGoesUnappliedRestoresTheLoudness)
+{
+    storeMusic(MusicPreset::lofi);
+    timer->start();
+    open();
+    form->musicVolume.set(0.75F);
+
+    form.reset();
+
+    EXPECT_THAT(calls, ElementsAre("player 1 volume 0.75", "player 1 volume 0.25"));
+}
+
+TEST_F(SettingsFormTest, OnceItIsAppliedOrCancelledAFormLeavesTheLoudnessAlone)
+{
+    storeMusic(MusicPreset::lofi);
+    timer->start();
+    for (const auto& leave : {&SettingsForm::apply, &SettingsForm::cancel}) {
+        open();
+        (*form.*leave)();
+        calls.clear();
+
+        form.reset();
+
+        EXPECT_THAT(calls, IsEmpty());
+    }
+}
+
 TEST_F(SettingsFormTest, TheLoudnessIsHeardWithinItsRange)
 {
     storeMusic(MusicPreset::lofi);
