@@ -13,18 +13,14 @@ namespace velto {
 
 std::string percentText(float volume)
 {
+    const double percent = static_cast<double>(volume) * 100;
+    const double nearest = std::round(percent);
+    // The float for 53 percent lies a little below 0.53.
+    const double shown = static_cast<float>(nearest / 100) == volume ? nearest : std::trunc(percent);
     std::array<char, 64> text{};
     // Adding zero makes a negative zero positive.
-    std::snprintf(text.data(), text.size(), "%.0f%%", static_cast<double>(std::trunc(volume * 100.0F) + 0.0F));
+    std::snprintf(text.data(), text.size(), "%.0f%%", shown + 0.0);
     return text.data();
-}
-
-float volumeOf(int percent)
-{
-    const auto wanted = static_cast<float>(percent);
-    const float volume = wanted / 100.0F;
-    // The quotient may fall short by its last bit, and the text then by a whole percent.
-    return volume * 100.0F < wanted ? std::nextafter(volume, 1.0F) : volume;
 }
 
 SettingsForm::SettingsForm(AppSettings& settings, PomodoroTimer& timer) :

@@ -17,9 +17,6 @@ class PomodoroTimer;
 /// A loudness as people read it: "25%" for 0.25. What is less than a whole percent is cut off.
 [[nodiscard]] std::string percentText(float volume);
 
-/// The loudness that reads as `percent`, 0 to 100.
-[[nodiscard]] float volumeOf(int percent);
-
 /// The working copy behind the settings form: taken once, edited freely, then applied or cancelled.
 ///
 /// Only the loudness is heard while it is edited. Nothing is clamped. Main thread only.

@@ -18,9 +18,7 @@
 #include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QSignalBlocker>
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
@@ -209,12 +207,9 @@ QWidget* SettingsSheet::durationSlider(const QString& title, Published<std::int6
     m_numberFields.push_back(number);
 
     connect(number, &QLineEdit::returnPressed, this, [this] { setFocus(); });
-    connect(slider, &QSlider::valueChanged, this, [&value](int minutes) { assign<std::int64_t>(value, minutes); });
-    m_readings.emplace_back([slider, &value] {
-        // The value may lie beyond the slider, which must not pull it in.
-        const QSignalBlocker blocker(slider);
-        slider->setValue(static_cast<int>(std::clamp<std::int64_t>(value(), slider->minimum(), slider->maximum())));
-    });
+    connect(slider, &Slider::chosen, this,
+        [&value](double minutes) { assign<std::int64_t>(value, std::llround(minutes)); });
+    m_readings.emplace_back([slider, &value] { slider->showValue(static_cast<double>(value())); });
     return box(column({.spacing = 6, .alignment = {}}, row({}, new TextLabel(title), spacer, number, unit), slider),
         controlWidth);
 }
@@ -300,14 +295,14 @@ QLayout* SettingsSheet::phaseMusic(
 QWidget* SettingsSheet::volumeSlider()
 {
     auto* percent = new TextLabel({}, TextStyle::body, ColorName::secondaryLabel);
-    auto* slider = new Slider(0, 100);
+    auto* slider = new Slider(0, 1, 100);
     slider->setAccessibleName(tr("Volume"));
 
-    connect(slider, &QSlider::valueChanged, this, [this](int value) { m_form.musicVolume.set(volumeOf(value)); });
+    connect(slider, &Slider::chosen, this,
+        [this](double volume) { assign(m_form.musicVolume, static_cast<float>(volume)); });
     m_readings.emplace_back([this, percent, slider] {
         percent->setText(QString::fromStdString(percentText(m_form.musicVolume())));
-        const QSignalBlocker blocker(slider);
-        slider->setValue(static_cast<int>(std::lround(std::clamp(m_form.musicVolume(), 0.0F, 1.0F) * 100.0F)));
+        slider->showValue(static_cast<double>(m_form.musicVolume()));
     });
     return box(column({.spacing = 6, .alignment = {}}, row({}, new TextLabel(tr("Volume")), spacer, percent), slider),
         controlWidth);

@@ -4,10 +4,12 @@
 #include "style/Colors.h"
 #include "style/Drawing.h"
 
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
 
+#include <algorithm>
 #include <cmath>
 
 namespace velto {
@@ -18,12 +20,45 @@ constexpr double knobDiameter = 18;
 constexpr double trackHeight = 4;
 constexpr double focusMargin = 2;
 
+class SliderInterface final : public QAccessibleWidget, public QAccessibleValueInterface {
+public:
+    explicit SliderInterface(Slider* slider) : QAccessibleWidget(slider, QAccessible::Slider) { }
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface*>(this)
+                                                   : QAccessibleWidget::interface_cast(type);
+    }
+
+    QVariant currentValue() const override { return slider().shownValue(); }
+    void setCurrentValue(const QVariant& value) override { slider().choose(value.toDouble()); }
+    QVariant maximumValue() const override { return slider().inUnits(slider().maximum()); }
+    QVariant minimumValue() const override { return slider().inUnits(slider().minimum()); }
+    QVariant minimumStepSize() const override { return slider().inUnits(1); }
+
+private:
+    Slider& slider() const { return *static_cast<Slider*>(widget()); }
+};
+
+QAccessibleInterface* makeInterface(const QString&, QObject* object)
+{
+    auto* slider = qobject_cast<Slider*>(object);
+    return slider ? new SliderInterface(slider) : nullptr;
+}
+
 } // namespace
 
-Slider::Slider(int minimum, int maximum) : QSlider(Qt::Horizontal)
+Slider::Slider(int minimum, int maximum, int stepsPerUnit) : QSlider(Qt::Horizontal), m_stepsPerUnit(stepsPerUnit)
 {
-    setRange(minimum, maximum);
+    QAccessible::installFactory(makeInterface);
+    setRange(minimum * stepsPerUnit, maximum * stepsPerUnit);
     setFocusPolicy(Qt::StrongFocus);
+    connect(this, &QSlider::actionTriggered, this, [this] { emit chosen(shownValue()); });
+}
+
+void Slider::showValue(double value)
+{
+    setValue(positionOf(value));
 }
 
 QSize Slider::sizeHint() const
@@ -69,14 +104,13 @@ void Slider::mousePressEvent(QMouseEvent* event)
     const bool isOnKnob = std::abs(distance) <= knobDiameter / 2;
     m_grabOffset = isOnKnob ? distance : 0;
     setSliderDown(true);
-    if (!isOnKnob)
-        moveTo(event->position().x());
+    moveTo(isOnKnob ? sliderPosition() : positionAt(event->position().x()));
 }
 
 void Slider::mouseMoveEvent(QMouseEvent* event)
 {
     if (isSliderDown())
-        moveTo(event->position().x() - m_grabOffset);
+        moveTo(positionAt(event->position().x() - m_grabOffset));
 }
 
 void Slider::mouseReleaseEvent(QMouseEvent* event)
@@ -90,6 +124,12 @@ void Slider::wheelEvent(QWheelEvent* event)
     event->ignore();
 }
 
+int Slider::positionOf(double value) const
+{
+    return static_cast<int>(std::lround(
+        std::clamp(value * m_stepsPerUnit, static_cast<double>(minimum()), static_cast<double>(maximum()))));
+}
+
 double Slider::knobCenter() const
 {
     const double margin = focusMargin + knobDiameter / 2;
@@ -100,14 +140,22 @@ double Slider::knobCenter() const
     return margin + fraction * (width() - 2 * margin);
 }
 
-void Slider::moveTo(double x)
+int Slider::positionAt(double x) const
 {
     const double margin = focusMargin + knobDiameter / 2;
     const double range = static_cast<double>(maximum()) - minimum();
     double fraction = std::clamp((x - margin) / std::max(width() - 2 * margin, 1.0), 0.0, 1.0);
     if (layoutDirection() == Qt::RightToLeft)
         fraction = 1 - fraction;
-    setSliderPosition(minimum() + static_cast<int>(std::lround(fraction * range)));
+    return minimum() + static_cast<int>(std::lround(fraction * range));
+}
+
+void Slider::moveTo(int position)
+{
+    if (position == sliderPosition())
+        emit chosen(shownValue());
+    else
+        setSliderPosition(position);
 }
 
 } // namespace velto

@@ -5,16 +5,28 @@
 
 namespace velto {
 
-/// A horizontal slider of whole numbers. A press on the track takes the knob there. The wheel is left
-/// to what scrolls around it.
+/// A horizontal slider. A press on the track takes the knob there. The wheel is left to what scrolls around it.
 class Slider : public QSlider {
     Q_OBJECT
 
 public:
-    Slider(int minimum, int maximum);
+    /// There are `stepsPerUnit` positions for each 1 between `minimum` and `maximum`.
+    Slider(int minimum, int maximum, int stepsPerUnit = 1);
+
+    /// Takes the knob to the position next to `value`, which may lie beyond either end, and tells nobody.
+    void showValue(double value);
+    [[nodiscard]] double shownValue() const { return inUnits(sliderPosition()); }
+    [[nodiscard]] double inUnits(int position) const { return static_cast<double>(position) / m_stepsPerUnit; }
+
+    /// As the hand does.
+    void choose(double value) { moveTo(positionOf(value)); }
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+signals:
+    /// The hand has put the knob to `value`, be it where it stood.
+    void chosen(double value);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -24,9 +36,12 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    [[nodiscard]] int positionOf(double value) const;
     [[nodiscard]] double knobCenter() const;
-    void moveTo(double x);
+    [[nodiscard]] int positionAt(double x) const;
+    void moveTo(int position);
 
+    int m_stepsPerUnit;
     double m_grabOffset = 0; ///< Where in the knob it is held.
 };
 

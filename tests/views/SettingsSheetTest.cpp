@@ -27,7 +27,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
+#include <tuple>
+#include <vector>
 
 namespace velto {
 
@@ -102,6 +105,9 @@ protected:
                 texts << label->text();
         return texts;
     }
+
+    /// Where the knob's middle is with the slider at its lowest value.
+    static int startOf(const Slider* slider) { return slider->height() / 2; }
 
     QScrollBar& indicator() { return *sheet->findChild<QScrollArea*>()->verticalScrollBar(); }
 
@@ -294,6 +300,91 @@ TEST_F(SettingsSheetTest, TheSliderReplacesAHalfTypedNumber)
     EXPECT_EQ(field->text(), "26");
 }
 
+TEST_F(SettingsSheetTest, APressOnTheSliderReplacesAHalfTypedNumber)
+{
+    open();
+    auto* field = find<EditableNumberField>("Focus");
+    auto* slider = find<Slider>("Focus");
+    const int knob = startOf(slider);
+    for (const auto& [place, number] : {std::pair{knob, "25"}, std::pair{slider->width() - 4, "120"}}) {
+        type(field, "4");
+
+        QTest::mouseClick(slider, Qt::LeftButton, {}, {place, slider->height() / 2});
+
+        EXPECT_EQ(field->text(), number);
+        sheet->setFocus();
+        EXPECT_EQ(field->text(), number);
+        slider->setSliderPosition(25);
+        settle();
+    }
+}
+
+TEST_F(SettingsSheetTest, TheHandBringsAValueFromBeyondTheSliderToItsEnd)
+{
+    const auto press = [](QWidget* slider, int x) {
+        QTest::mouseClick(slider, Qt::LeftButton, {}, {x, slider->height() / 2});
+    };
+    const auto key = [](Qt::Key pressed) { return [pressed](Slider* slider) { QTest::keyClick(slider, pressed); }; };
+    const auto atStart = [&](Slider* slider) { press(slider, startOf(slider)); };
+    const auto atEnd = [&](Slider* slider) { press(slider, slider->width() - startOf(slider)); };
+    const auto beyondEnd = [&](Slider* slider) { press(slider, slider->width() - 1); };
+    const auto drag = [&](Slider* slider) {
+        const int middle = slider->height() / 2;
+        QTest::mousePress(slider, Qt::LeftButton, {}, {startOf(slider), middle});
+        QTest::mouseMove(slider, {0, middle});
+        QTest::mouseRelease(slider, Qt::LeftButton, {}, {0, middle});
+    };
+    const std::vector<std::tuple<std::int64_t, std::function<void(Slider*)>, const char*>> table{
+        {10, atStart, "25"},
+        {10, drag, "25"},
+        {10, key(Qt::Key_Home), "25"},
+        {10, key(Qt::Key_Left), "25"},
+        {10, key(Qt::Key_PageDown), "25"},
+        {0, key(Qt::Key_Home), "25"},
+        {999, atEnd, "120"},
+        {999, beyondEnd, "120"},
+        {999, key(Qt::Key_End), "120"},
+        {999, key(Qt::Key_PageUp), "120"},
+    };
+    for (const auto& [stored, act, number] : table) {
+        settings.focusMinutes.set(stored);
+        open();
+        EXPECT_EQ(find<EditableNumberField>("Focus")->text(), QString::number(stored));
+
+        act(find<Slider>("Focus"));
+
+        EXPECT_EQ(find<EditableNumberField>("Focus")->text(), number) << stored;
+    }
+}
+
+TEST_F(SettingsSheetTest, AssistiveTechnologyMovesASliderInTheUnitOfItsValue)
+{
+    settings.musicVolume.set(0.999F);
+    settings.focusMinutes.set(999);
+    open();
+    auto* volume = QAccessible::queryAccessibleInterface(find<Slider>("Volume"))->valueInterface();
+    auto* focus = QAccessible::queryAccessibleInterface(find<Slider>("Focus"))->valueInterface();
+
+    EXPECT_EQ(volume->minimumValue().toDouble(), 0);
+    EXPECT_EQ(volume->maximumValue().toDouble(), 1);
+    EXPECT_EQ(volume->minimumStepSize().toDouble(), 0.01);
+    EXPECT_EQ(volume->currentValue().toDouble(), 1);
+    EXPECT_EQ(focus->minimumValue().toDouble(), 25);
+    EXPECT_EQ(focus->maximumValue().toDouble(), 120);
+    EXPECT_EQ(focus->minimumStepSize().toDouble(), 1);
+
+    volume->setCurrentValue(0.53);
+    focus->setCurrentValue(120.0);
+    settle();
+
+    EXPECT_EQ(volume->currentValue().toDouble(), 0.53);
+    EXPECT_TRUE(visibleTexts().contains("53%"));
+    EXPECT_EQ(find<EditableNumberField>("Focus")->text(), "120");
+    QTest::keyClick(sheet.get(), Qt::Key_Return);
+    EXPECT_EQ(settings.musicVolume(), 0.53F);
+    EXPECT_EQ(settings.focusMinutes(), 120);
+}
+
 TEST_F(SettingsSheetTest, DraggingTheSliderShowsTheNumberAtOnce)
 {
     open();
@@ -455,15 +546,29 @@ TEST_F(SettingsSheetTest, TheVolumeIsHeardWhileItIsDraggedAndRestoredByCancel)
     EXPECT_EQ(dismissals, 1);
 }
 
-TEST_F(SettingsSheetTest, EveryPositionOfTheVolumeShowsItsPercentage)
+TEST_F(SettingsSheetTest, EveryPositionOfTheVolumeShowsAndIsItsPercentage)
 {
     open();
 
     for (int percent = 0; percent <= 100; ++percent) {
-        find<Slider>("Volume")->setValue(percent);
+        find<Slider>("Volume")->setSliderPosition(percent);
         settle();
         EXPECT_TRUE(visibleTexts().contains(QString::number(percent) + '%')) << percent;
+        QTest::keyClick(sheet.get(), Qt::Key_Return);
+        EXPECT_EQ(settings.musicVolume(), static_cast<float>(percent / 100.0));
     }
+}
+
+TEST_F(SettingsSheetTest, AVolumeJustBelowTheEndIsBroughtThereByAPress)
+{
+    settings.musicVolume.set(0.999F);
+    open();
+    auto* slider = find<Slider>("Volume");
+
+    QTest::mouseClick(slider, Qt::LeftButton, {}, {slider->width() - startOf(slider), slider->height() / 2});
+    settle();
+
+    EXPECT_TRUE(visibleTexts().contains("100%"));
 }
 
 TEST_F(SettingsSheetTest, AVolumeBetweenTwoPositionsIsKept)

@@ -11,6 +11,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <memory>
 #include <optional>
 #include <string>
@@ -622,14 +623,11 @@ TEST(PercentTextTest, IsCutOffTowardZero)
     EXPECT_EQ(percentText(-0.259F), "-25%");
 }
 
-TEST(VolumeOfTest, ReadsAsThePercentageAskedFor)
+TEST(PercentTextTest, TheFloatNearestToAPercentageIsThatPercentage)
 {
-    for (int percent = 0; percent <= 100; ++percent) {
-        EXPECT_EQ(percentText(volumeOf(percent)), std::to_string(percent) + '%');
-        EXPECT_FLOAT_EQ(volumeOf(percent), static_cast<float>(percent) / 100);
-    }
-    EXPECT_EQ(volumeOf(25), 0.25F);
-    EXPECT_EQ(volumeOf(100), 1.0F);
+    for (int percent = 0; percent <= 100; ++percent)
+        EXPECT_EQ(percentText(static_cast<float>(percent / 100.0)), std::to_string(percent) + '%');
+    EXPECT_EQ(percentText(std::nextafter(0.53F, 0.0F)), "52%");
 }
 
 } // namespace velto
