@@ -3,6 +3,7 @@
 
 #include "platform/KeyValueStore.h"
 #include "platform/SoundLibrary.h"
+#include "settings/Minutes.h"
 
 #include <nlohmann/json.hpp>
 
@@ -32,9 +33,13 @@ std::optional<std::string> decodeJsonString(const Blob& blob)
 }
 
 template <class T>
-Setting<T> nativeSetting(ObservableObject& owner, KeyValueStore& store, std::string_view key, T fallback)
+Setting<T> nativeSetting(
+    ObservableObject& owner, KeyValueStore& store, std::string_view key, T fallback, bool (*isReadable)(T) = nullptr)
 {
-    return {owner, store.value<T>(key).value_or(std::move(fallback)),
+    auto stored = store.value<T>(key);
+    if (stored && isReadable && !isReadable(*stored))
+        stored.reset();
+    return {owner, std::move(stored).value_or(std::move(fallback)),
         [&store, key](const T& value) { store.set(key, value); }};
 }
 
@@ -58,8 +63,8 @@ std::string musicUrl(MusicPreset preset, const std::string& customUrl)
 } // namespace
 
 AppSettings::AppSettings(KeyValueStore& defaults, SoundLibrary& sounds) :
-    focusMinutes(nativeSetting<std::int64_t>(*this, defaults, "focusMinutes", 25)),
-    breakMinutes(nativeSetting<std::int64_t>(*this, defaults, "breakMinutes", 5)),
+    focusMinutes(nativeSetting<std::int64_t>(*this, defaults, "focusMinutes", 25, minutesFitSeconds)),
+    breakMinutes(nativeSetting<std::int64_t>(*this, defaults, "breakMinutes", 5, minutesFitSeconds)),
     autoTransition(nativeSetting(*this, defaults, "autoTransition", false)),
     countdownSound(enumSetting(*this, defaults, "countdownSound", soundOption, SoundOption::tink)),
     focusEndSound(enumSetting(*this, defaults, "focusEndSound", soundOption, SoundOption::glass)),

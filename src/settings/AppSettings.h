@@ -16,8 +16,8 @@ class SoundLibrary;
 
 /// What the user has set: thirteen values, read from the store once, written to it on every assignment.
 ///
-/// Nothing is clamped or validated. A stored value that is missing or of the wrong kind counts as
-/// the default. Main thread only.
+/// Nothing is clamped or validated. A stored value that is missing or unreadable counts as the default.
+/// Main thread only.
 class AppSettings : public ObservableObject {
 public:
     /// Writes nothing. Both arguments must outlive this.

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "settings/AppSettings.h"
 
+#include "settings/Minutes.h"
 #include "support/FakeKeyValueStore.h"
 #include "support/FakeSoundLibrary.h"
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <string>
 #include <utility>
 #include <vector>
@@ -109,6 +111,24 @@ TEST_F(AppSettingsTest, ZeroAndNegativeMinutesAreLoadedAsTheyAre)
 
     EXPECT_EQ(settings.focusMinutes(), 0);
     EXPECT_EQ(settings.breakMinutes(), -3);
+}
+
+TEST_F(AppSettingsTest, MinutesThatCannotBeCountedInSecondsCountAsTheDefault)
+{
+    const std::int64_t most = 153722867280912930;
+    const std::vector<std::pair<std::int64_t, bool>> cases{{most, true}, {most + 1, false}, {-most, true},
+        {-most - 1, false}, {std::numeric_limits<std::int64_t>::max(), false},
+        {std::numeric_limits<std::int64_t>::min(), false}};
+    for (const auto& [minutes, isReadable] : cases) {
+        defaults.values["focusMinutes"] = minutes;
+        defaults.values["breakMinutes"] = minutes;
+
+        const auto settings = load();
+
+        EXPECT_EQ(settings.focusMinutes(), isReadable ? minutes : 25);
+        EXPECT_EQ(settings.breakMinutes(), isReadable ? minutes : 5);
+        EXPECT_EQ(minutesFitSeconds(minutes), isReadable) << minutes;
+    }
 }
 
 TEST_F(AppSettingsTest, AValueOfTheWrongKindCountsAsTheDefault)

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <limits>
+
+namespace velto {
+
+/// Whether a number of minutes can be counted in seconds. One that can't counts as unreadable wherever it is read.
+[[nodiscard]] constexpr bool minutesFitSeconds(std::int64_t minutes)
+{
+    using Limits = std::numeric_limits<std::int64_t>;
+    return minutes >= Limits::min() / 60 && minutes <= Limits::max() / 60;
+}
+
+} // namespace velto
