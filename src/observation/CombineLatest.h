@@ -13,7 +13,7 @@ namespace velto {
 /// Observes several published values as one: `handler` gets the latest of all of them, once on
 /// subscription and then for every assignment of any. The values must outlive the subscription.
 template <class Handler, class... T>
-Subscription combineLatest(Handler handler, const Published<T>&... sources)
+Subscription combineLatest(Handler handler, const PublishedValue<T>&... sources)
 {
     struct State {
         std::tuple<T...> latest;

@@ -24,7 +24,7 @@ protected:
 
 private:
     template <class T>
-    friend class Published;
+    friend class PublishedValue;
 
     Broadcast<> m_willChange;
 };

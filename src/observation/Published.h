@@ -9,37 +9,47 @@
 
 namespace velto {
 
-/// A value whose observers hear of every assignment before it is stored.
+/// A value whose observers hear of every assignment before it is stored; who may assign it, a derived class says.
+///
+///     const auto shown = timer.phase.changes([](PomodoroPhase phase) { show(phase); });      // now and later
+///     const auto heard = timer.phase.laterChanges([](PomodoroPhase phase) { ring(phase); }); // later only
+///     if (timer.phase() == PomodoroPhase::focus) ...
 ///
 /// An assignment of an equal value is announced like any other. Main thread only.
 template <class T>
-class Published {
+class PublishedValue {
 public:
     using Handler = std::function<void(const T&)>;
 
     /// `owner` announces each change too, first of all; it must outlive this.
-    Published(ObservableObject& owner, T initial) : m_owner(owner), m_value(std::move(initial)) { }
-    Published(const Published&) = delete;
-    Published& operator=(const Published&) = delete;
+    PublishedValue(ObservableObject& owner, T initial) : m_owner(owner), m_value(std::move(initial)) { }
+    PublishedValue(const PublishedValue&) = delete;
+    PublishedValue& operator=(const PublishedValue&) = delete;
 
     [[nodiscard]] const T& operator()() const { return m_value; }
-
-    /// Notifies, then stores. During the notification reading still gives the old value.
-    void set(T value)
-    {
-        m_owner.m_willChange.send();
-        m_changes.send(value);
-        m_value = std::move(value);
-    }
 
     /// `handler` gets the current value at once and every new one after it.
     Subscription changes(Handler handler) const
     {
         // One for all calls: it may keep state.
         const auto observer = std::make_shared<Handler>(std::move(handler));
-        auto subscription = m_changes.subscribe([observer](const T& value) { (*observer)(value); });
+        auto subscription = laterChanges([observer](const T& value) { (*observer)(value); });
         (*observer)(m_value);
         return subscription;
+    }
+
+    /// `handler` gets every new value, but not the current one.
+    Subscription laterChanges(Handler handler) const { return m_changes.subscribe(std::move(handler)); }
+
+protected:
+    ~PublishedValue() = default;
+
+    /// Notifies, then stores. During the notification reading still gives the old value.
+    void assign(T value)
+    {
+        m_owner.m_willChange.send();
+        m_changes.send(value);
+        m_value = std::move(value);
     }
 
 private:
@@ -48,15 +58,25 @@ private:
     T m_value;
 };
 
+/// A published value that everybody may assign.
+template <class T>
+class Published : public PublishedValue<T> {
+public:
+    using PublishedValue<T>::PublishedValue;
+
+    void set(T value) { this->assign(std::move(value)); }
+};
+
 /// A published value that only its owner assigns.
 template <class T, class Owner>
-class ReadOnlyPublished : public Published<T> {
+class ReadOnlyPublished : public PublishedValue<T> {
 public:
-    using Published<T>::Published;
+    using PublishedValue<T>::PublishedValue;
 
 private:
     friend Owner;
-    using Published<T>::set;
+
+    void set(T value) { this->assign(std::move(value)); }
 };
 
 } // namespace velto

@@ -16,7 +16,7 @@ namespace velto {
 class ChangeLog {
 public:
     template <class T>
-    void observe(const std::string& name, const Published<T>& value)
+    void observe(const std::string& name, const PublishedValue<T>& value)
     {
         m_subscriptions.push_back(value.changes([this, name](const T& now) { add(name + '=' + text(now)); }));
         m_lines.clear();

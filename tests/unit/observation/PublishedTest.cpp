@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace velto {
@@ -27,6 +28,8 @@ concept Assignable = requires(P& published)
 
 static_assert(Assignable<decltype(Model::number)>);
 static_assert(!Assignable<decltype(Model::own)>, "only its owner assigns it");
+static_assert(!std::is_convertible_v<decltype(Model::own)&, Published<int>&>, "nor does anybody through a base");
+static_assert(!Assignable<PublishedValue<int>>, "what observers are given can be read only");
 
 } // namespace
 
@@ -50,6 +53,16 @@ TEST_F(PublishedTest, DeliversTheCurrentValueOnSubscription)
     const auto a = listen("a");
 
     EXPECT_EQ(heard, Lines{"a1 over 1"});
+}
+
+TEST_F(PublishedTest, LaterChangesLeaveOutTheCurrentValue)
+{
+    const auto a = model->number.laterChanges([this](int value) { heard.push_back(std::to_string(value)); });
+    EXPECT_TRUE(heard.empty());
+
+    model->number.set(1);
+
+    EXPECT_EQ(heard, Lines{"1"});
 }
 
 TEST_F(PublishedTest, NotifiesInOrderBeforeItStores)
@@ -88,11 +101,11 @@ TEST_F(PublishedTest, TheObjectAnnouncesEachChangeBeforeTheValueDoes)
 
 TEST_F(PublishedTest, OnlyTheOwnerAssignsAReadOnlyValue)
 {
-    const auto a = model->own.changes([this](int value) { heard.push_back(std::to_string(value)); });
+    const auto a = model->own.laterChanges([this](int value) { heard.push_back(std::to_string(value)); });
 
     model->assignOwn(4);
 
-    EXPECT_EQ(heard, (Lines{"3", "4"}));
+    EXPECT_EQ(heard, Lines{"4"});
     EXPECT_EQ(model->own(), 4);
 }
 

@@ -9,12 +9,15 @@
 
 #include <limits>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
 namespace velto {
 
 namespace {
+
+static_assert(!std::is_convertible_v<Setting<bool>&, Published<bool>&>, "no way to set it without storing it");
 
 using Writes = std::vector<std::pair<std::string, StoredValue>>;
 
