@@ -33,10 +33,7 @@ PomodoroTimer::PomodoroTimer(AppSettings& settings, RunLoop& runLoop, StreamPlay
     m_runLoop(runLoop),
     m_musicPlayer(players)
 {
-    m_autoTransitionWriteThrough = autoTransition.changes([this, isCurrentValue = true](bool on) mutable {
-        if (!std::exchange(isCurrentValue, false))
-            m_settings.autoTransition.set(on);
-    });
+    m_autoTransitionWriteThrough = autoTransition.laterChanges([this](bool on) { m_settings.autoTransition.set(on); });
 }
 
 void PomodoroTimer::start()

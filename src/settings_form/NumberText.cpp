@@ -38,7 +38,7 @@ NumberText::NumberText(Published<std::int64_t>& value, IsNumeric isNumeric) :
     m_isNumeric(isNumeric),
     m_text(decimal(value()))
 {
-    m_valueChanges = value.changes([this](std::int64_t newValue) {
+    m_valueChanges = value.laterChanges([this](std::int64_t newValue) {
         if (newValue != m_value())
             setText(decimal(newValue));
     });

@@ -7,7 +7,6 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
-#include <utility>
 
 namespace velto {
 
@@ -41,10 +40,7 @@ SettingsForm::SettingsForm(AppSettings& settings, PomodoroTimer& timer) :
     m_timer(timer),
     m_originalMusicVolume(settings.musicVolume())
 {
-    m_volumePreview = musicVolume.changes([this, isCurrentValue = true](float volume) mutable {
-        if (!std::exchange(isCurrentValue, false))
-            m_timer.musicPlayer().setVolume(volume);
-    });
+    m_volumePreview = musicVolume.laterChanges([this](float volume) { m_timer.musicPlayer().setVolume(volume); });
 }
 
 SettingsForm::~SettingsForm()

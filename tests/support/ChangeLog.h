@@ -18,8 +18,7 @@ public:
     template <class T>
     void observe(const std::string& name, const PublishedValue<T>& value)
     {
-        m_subscriptions.push_back(value.changes([this, name](const T& now) { add(name + '=' + text(now)); }));
-        m_lines.clear();
+        m_subscriptions.push_back(value.laterChanges([this, name](const T& now) { add(name + '=' + text(now)); }));
     }
 
     void keep(Subscription subscription) { m_subscriptions.push_back(std::move(subscription)); }

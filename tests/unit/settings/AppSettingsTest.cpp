@@ -254,9 +254,8 @@ TEST_F(AppSettingsTest, ObserversHearFirstThenMemoryThenTheStoreChanges)
             + std::to_string(defaults.writes.size()) + " writes");
     };
     const auto object = settings.willChange([&] { note("object"); });
-    const auto value = settings.focusMinutes.changes([&](std::int64_t) { note("value"); });
+    const auto value = settings.focusMinutes.laterChanges([&](std::int64_t) { note("value"); });
     defaults.onWrite = [&] { note("written"); };
-    steps.clear();
 
     settings.focusMinutes.set(30);
 

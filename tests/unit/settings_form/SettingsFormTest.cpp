@@ -77,7 +77,6 @@ protected:
         record(timer->autoTransition, [](auto) { return std::string("autoTransition"); });
         record(timer->musicPlayer().isPlaying, [](bool on) { return "isPlaying " + std::to_string(on); });
         record(timer->musicPlayer().currentURL, [](const auto& url) { return url ? "URL " + *url : "no URL"; });
-        calls.clear();
     }
 
     /// What apply() does beyond writing the thirteen settings.
@@ -105,7 +104,8 @@ private:
     template <class Published, class Text>
     void record(const Published& published, Text text)
     {
-        subscriptions.push_back(published.changes([this, text](const auto& value) { calls.push_back(text(value)); }));
+        subscriptions.push_back(
+            published.laterChanges([this, text](const auto& value) { calls.push_back(text(value)); }));
     }
 };
 
