@@ -20,6 +20,7 @@
 #include "desktop/windows/QtScreens.h"
 #include "desktop/windows/SheetWindow.h"
 #include "menubar/StatusBarController.h"
+#include "observation/NotificationCenter.h"
 #include "panel/PanelContainerView.h"
 #include "settings_form/SettingsSheet.h"
 
@@ -52,12 +53,7 @@ void setWindowClass(const QString& windowClass)
 
 int run(QApplication& application)
 {
-    StatusBarController* controller = nullptr;
-    SingleInstance instance([&controller] {
-        // Asked to show itself before there is anything to show, the program does so anyway.
-        if (controller)
-            controller->showTimerForKeyboard();
-    });
+    SingleInstance instance([] { NotificationCenter::defaultCenter().post(statusBarShowTimer); });
     if (!instance.claim())
         return 0;
 
@@ -106,7 +102,7 @@ int run(QApplication& application)
                 return std::make_unique<QtPanelWindow>(
                     std::make_unique<PanelContainerView>(timer, settings, size, runLoop, bundle, makeSettingsSheet),
                     QtPanelWindow::Handlers{.dismiss = hidePanel,
-                        .openMenu = [&controller] { controller->openMenu(); },
+                        .openMenu = [] { NotificationCenter::defaultCenter().post(statusBarOpenMenu); },
                         .isAskedFor = [&] { return desktopApplication.currentEvent().has_value(); }},
                     focus);
             },
@@ -115,7 +111,6 @@ int run(QApplication& application)
     };
     VeltoApp app(platform);
     app.appDelegate().applicationDidFinishLaunching();
-    controller = app.appDelegate().statusBarController.get();
     return application.exec();
 }
 

@@ -4,7 +4,6 @@
 #include "settings/MusicPreset.h"
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <variant>
 
@@ -14,7 +13,6 @@ namespace velto {
 
 struct DurationChoice {
     std::int64_t minutes = 0;
-    std::function<void(std::int64_t minutes)> apply;
 };
 
 struct DurationPreset {
@@ -25,7 +23,6 @@ struct DurationPreset {
 
 struct MusicChoice {
     std::optional<MusicPreset> preset; ///< Absent for no music.
-    std::function<void(std::optional<MusicPreset>)> apply;
 };
 
 // What becomes of a phase's music.

@@ -3,11 +3,10 @@
 
 #include "core/PomodoroTimer.h"
 #include "core/TimeText.h"
-#include "observation/CombineLatest.h"
 #include "observation/NotificationCenter.h"
 #include "panel/TimerPanelController.h"
 #include "platform/Application.h"
-#include "settings/AppSettings.h"
+#include "platform/Window.h"
 
 #include <utility>
 
@@ -15,58 +14,63 @@ namespace velto {
 
 StatusBarController::StatusBarController(PomodoroTimer& timer, AppSettings& settings,
     std::unique_ptr<TimerPanelController> panelController, Desktop desktop) :
-    m_runLoop(desktop.runLoop),
     m_application(desktop.application),
     m_statusItem(std::move(desktop.statusItem)),
     m_timer(timer),
-    m_settings(settings),
     m_panelController(std::move(panelController)),
-    m_aboutController(std::move(desktop.aboutController)),
-    m_helpController(std::move(desktop.helpController)),
-    m_deliveries(desktop.runLoop)
+    m_statusMenu(timer, settings,
+        {
+            .application = desktop.application,
+            .aboutController = std::move(desktop.aboutController),
+            .helpController = std::move(desktop.helpController),
+            .openSettings = [this] { openSettings(); },
+            .didChange = [this] { m_statusItem->menuDidChange(); },
+        }),
+    m_refresh(desktop.runLoop,
+        [this] {
+            updateTitle();
+            m_statusMenu.refreshMenuItems(m_timer.remainingSeconds(), m_timer.phase());
+        }),
+    m_showAtPhaseEnd(desktop.runLoop, [this] { showTimer(); })
 {
     if (auto* button = m_statusItem->button()) {
         button->setFont(12, FontWeight::semibold);
         button->setToolTip("Velto");
         button->setAction([this] { handleStatusItemClick(); });
-        refreshMenuItems(std::nullopt, std::nullopt);
-        updateDurationMenuStates();
     }
-    m_statusMenu = buildMenu();
-    m_statusItem->setMenu(m_statusMenu);
+    m_statusItem->setMenu(m_statusMenu.menu());
     bind();
-    updateTitle(m_timer.remainingSeconds(), m_timer.phase());
+    updateTitle();
 }
 
 StatusBarController::~StatusBarController() = default;
 
-void StatusBarController::updateTitle(std::int64_t remaining, PomodoroPhase /*the title is the same in both*/)
-{
-    if (auto* button = m_statusItem->button()) {
-        button->setTitle(timeText(remaining));
-        button->setAppearsDisabled(false);
-    }
-}
-
 void StatusBarController::bind()
 {
-    m_subscriptions.push_back(combineLatest(
-        [this](std::int64_t remaining, PomodoroPhase phase) {
-            m_deliveries.add([this, remaining, phase] { updateTitle(remaining, phase); });
-        },
-        m_timer.remainingSeconds, m_timer.phase));
-    m_subscriptions.push_back(combineLatest(
-        [this](bool, bool, std::int64_t) {
-            m_deliveries.add([this] { refreshMenuItems(m_timer.remainingSeconds(), m_timer.phase()); });
-        },
-        m_timer.isRunning, m_timer.hasStarted, m_timer.remainingSeconds));
-    m_subscriptions.push_back(
-        combineLatest([this](std::int64_t, std::int64_t) { m_deliveries.add([this] { updateDurationMenuStates(); }); },
-            m_timer.focusDuration, m_timer.breakDuration));
-    m_subscriptions.push_back(
-        m_timer.phase.changes([this](PomodoroPhase) { m_deliveries.add([this] { updatePhaseMenuState(); }); }));
-    m_subscriptions.push_back(NotificationCenter::defaultCenter().addObserver(
-        pomodoroSessionCompleted, [this](const Notification&) { handleSessionCompletedNotification(); }));
+    const auto refreshOn = [this](const auto&... values) {
+        (m_subscriptions.push_back(values.changes([this](const auto&) { m_refresh.request(); })), ...);
+    };
+    refreshOn(m_timer.remainingSeconds, m_timer.phase, m_timer.isRunning, m_timer.hasStarted, m_timer.focusDuration,
+        m_timer.breakDuration);
+
+    const auto onNotification = [this](const char* name, auto handler) {
+        m_subscriptions.push_back(
+            NotificationCenter::defaultCenter().addObserver(name, [handler](const Notification&) { handler(); }));
+    };
+    onNotification(pomodoroSessionCompleted, [this] { m_showAtPhaseEnd.request(); });
+    onNotification(statusBarOpenMenu, [this] { openMenu(); });
+    onNotification(statusBarShowTimer, [this] {
+        showTimer();
+        m_panelController->panel().makeKey();
+    });
+}
+
+void StatusBarController::updateTitle()
+{
+    if (auto* button = m_statusItem->button()) {
+        button->setTitle(timeText(m_timer.remainingSeconds()));
+        button->setAppearsDisabled(false);
+    }
 }
 
 void StatusBarController::handleStatusItemClick()
@@ -91,14 +95,27 @@ void StatusBarController::togglePanel()
 
 void StatusBarController::openMenu()
 {
-    refreshMenuItems(std::nullopt, std::nullopt);
+    m_statusMenu.refreshMenuItems();
     if (m_statusItem->button())
         m_statusItem->popUpMenu();
 }
 
-void StatusBarController::handleSessionCompletedNotification()
+void StatusBarController::openSettings()
 {
-    m_showAtPhaseEnd = m_runLoop.nextTurn([this] { showTimer(); });
+    showTimer();
+    NotificationCenter::defaultCenter().post(statusBarShowSettings);
+    // Who asks for the form wants to type into it.
+    m_panelController->panel().makeKey();
+}
+
+void StatusBarController::showTimer()
+{
+    m_panelController->show(m_statusItem->button());
+}
+
+void StatusBarController::hideTimer()
+{
+    m_panelController->hide();
 }
 
 } // namespace velto

@@ -10,36 +10,26 @@ namespace velto {
 
 ViewRefresher::ViewRefresher(QWidget& view, RunLoop& runLoop, std::function<void()> refresh) :
     m_view(view),
-    m_runLoop(runLoop),
-    m_refresh(std::move(refresh))
+    m_refresh(runLoop, std::move(refresh))
 {
     view.installEventFilter(this);
 }
 
 void ViewRefresher::observe(ObservableObject& object)
 {
-    m_observations.push_back(object.willChange([this] { changed(); }));
+    m_observations.push_back(object.willChange([this] {
+        if (m_view.isVisible())
+            m_refresh.request();
+    }));
 }
 
 bool ViewRefresher::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Show)
-        refreshNow();
+        m_refresh.runNow();
     else if (event->type() == QEvent::Hide)
-        m_pending.cancel();
+        m_refresh.cancel();
     return QObject::eventFilter(watched, event);
-}
-
-void ViewRefresher::changed()
-{
-    if (m_view.isVisible() && !m_pending.isActive())
-        m_pending = m_runLoop.nextTurn([this] { refreshNow(); });
-}
-
-void ViewRefresher::refreshNow()
-{
-    m_pending.cancel();
-    m_refresh();
 }
 
 } // namespace velto

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "observation/ObservableObject.h"
-#include "platform/RunLoop.h"
+#include "platform/OncePerTurn.h"
 
 #include <QObject>
 
@@ -29,13 +29,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void changed();
-    void refreshNow();
-
     QWidget& m_view;
-    RunLoop& m_runLoop;
-    std::function<void()> m_refresh;
-    Subscription m_pending;
+    OncePerTurn m_refresh;
     std::vector<Subscription> m_observations;
 };
 

@@ -30,7 +30,7 @@ TEST_F(StatusBarControllerTest, TheButtonShowsTheTimeAtOnce)
     EXPECT_EQ(button().titles, Lines{"25:00"}) << "before the first delivery";
     EXPECT_EQ(button().appearsDisabled, std::vector<bool>{false});
     EXPECT_TRUE(button().action);
-    EXPECT_EQ(world.statusItem->menu, controller().statusMenu());
+    EXPECT_EQ(world.statusItem->menu, controller().statusMenu().menu());
 }
 
 TEST_F(StatusBarControllerTest, BuildsNoPanelAndNoWindowYet)
@@ -91,7 +91,7 @@ TEST_F(StatusBarControllerTest, AChangeOfThePhaseAloneRewritesTheTitleWithTheSam
     timer().switchToPhase(PomodoroPhase::breakTime);
     world.runLoop.runTurns();
 
-    EXPECT_EQ(button().titles, (Lines{"05:00", "05:00"})) << "once for the phase, once for the remaining time";
+    EXPECT_EQ(button().titles, Lines{"05:00"});
 }
 
 TEST_F(StatusBarControllerTest, TheTitleIsWrittenInTheTurnAfterTheChange)
@@ -217,6 +217,16 @@ TEST_F(StatusBarControllerTest, TheMenuIsUpToDateBeforeItOpens)
     EXPECT_EQ(title, "Pause Focus") << "though nothing has been delivered yet";
 }
 
+TEST_F(StatusBarControllerTest, TheMenuOpensAlsoWhenAskedForWithoutAClick)
+{
+    controller();
+
+    NotificationCenter::defaultCenter().post(statusBarOpenMenu);
+
+    EXPECT_EQ(world.statusItem->popUps, 1);
+    EXPECT_EQ(world.panelsMade, 0);
+}
+
 TEST_F(StatusBarControllerTest, AMenuThatAHostOpensIsUpToDateToo)
 {
     controller();
@@ -250,7 +260,7 @@ TEST_F(StatusBarControllerTest, ThePanelHasTheKeyboardOnlyWhenThatIsAskedFor)
     controller().showTimer();
     EXPECT_EQ(world.panel->keys, 0);
 
-    controller().showTimerForKeyboard();
+    NotificationCenter::defaultCenter().post(statusBarShowTimer);
     EXPECT_EQ(world.panel->fronts, 2);
     EXPECT_EQ(world.panel->keys, 1);
 }

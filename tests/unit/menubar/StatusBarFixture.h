@@ -54,7 +54,7 @@ protected:
         return *world.statusItem->button();
     }
 
-    Lines menu() { return menuText(*controller().statusMenu()); }
+    Lines menu() { return menuText(*controller().statusMenu().menu()); }
 
     /// What the user reads once everything waiting has been delivered.
     Lines settledMenu()
@@ -66,7 +66,7 @@ protected:
 
     void choose(const std::string& path)
     {
-        const auto* item = menuItem(*controller().statusMenu(), path);
+        const auto* item = menuItem(*controller().statusMenu().menu(), path);
         ASSERT_NE(item, nullptr) << path;
         ASSERT_TRUE(item->action) << path;
         item->action(*item);

@@ -102,7 +102,7 @@ TEST_F(StatusMenuTest, AsBuiltOnlyTheTwoDurationsAreChecked)
 
 TEST_F(StatusMenuTest, HasTheEntriesOfEachMenuInNumber)
 {
-    const auto& top = *controller().statusMenu();
+    const auto& top = *controller().statusMenu().menu();
     const auto entries = [&](const std::string& title) { return menuItem(top, title)->submenu->items.size(); };
 
     EXPECT_EQ(top.title, "");
@@ -118,7 +118,7 @@ TEST_F(StatusMenuTest, HasTheEntriesOfEachMenuInNumber)
 
 TEST_F(StatusMenuTest, OnlySeparatorsAndItemsWithASubmenuHaveNoAction)
 {
-    forEachItem(*controller().statusMenu(), [](const MenuItem& item) {
+    forEachItem(*controller().statusMenu().menu(), [](const MenuItem& item) {
         EXPECT_EQ(static_cast<bool>(item.action), !item.isSeparator && !item.submenu) << item.title;
         if (item.submenu) {
             EXPECT_EQ(item.submenu->title, item.title);
@@ -130,7 +130,7 @@ TEST_F(StatusMenuTest, OnlySeparatorsAndItemsWithASubmenuHaveNoAction)
 TEST_F(StatusMenuTest, ItemsCarryWhatTheyStandFor)
 {
     std::vector<std::string> carried;
-    forEachItem(*controller().statusMenu(), [&](const MenuItem& item) {
+    forEachItem(*controller().statusMenu().menu(), [&](const MenuItem& item) {
         if (const auto* duration = std::any_cast<DurationChoice>(&item.representedObject))
             carried.push_back(std::to_string(duration->minutes));
         else if (const auto* preset = std::any_cast<DurationPreset>(&item.representedObject))
@@ -157,7 +157,7 @@ TEST_F(StatusMenuTest, IsNeverRebuilt)
 {
     const auto items = [this] {
         std::vector<const MenuItem*> all;
-        forEachItem(*controller().statusMenu(), [&](const MenuItem& item) { all.push_back(&item); });
+        forEachItem(*controller().statusMenu().menu(), [&](const MenuItem& item) { all.push_back(&item); });
         return all;
     };
     const auto built = items();
@@ -308,19 +308,25 @@ TEST_F(StatusMenuTest, AutoTransitionIsMarkedAtBuildAndOnEveryRefresh)
     timer().autoTransition.set(false);
     EXPECT_EQ(changedLines(freshMenu, settledMenu()), Lines{"Auto-Transition [on]"}) << "no refresh yet";
 
-    controller().statusMenu()->willOpen();
+    controller().statusMenu().menu()->willOpen();
     EXPECT_EQ(menu(), freshMenu);
 }
 
-TEST_F(StatusMenuTest, EveryRefreshTellsTheHost)
+TEST_F(StatusMenuTest, TheHostIsToldOnceForAllThatChangesInATurn)
 {
+    timer().start();
     settledMenu();
     world.statusItem->menuChanges = 0;
 
-    timer().start();
-    settledMenu();
+    tick(1);
+    EXPECT_EQ(world.statusItem->menuChanges, 1) << "a tick";
 
-    EXPECT_GT(world.statusItem->menuChanges, 0);
+    timer().updateDurations(50, 10);
+    settledMenu();
+    EXPECT_EQ(world.statusItem->menuChanges, 2) << "new durations";
+
+    choose("Auto-Transition");
+    EXPECT_EQ(world.statusItem->menuChanges, 3) << "a choice that the timer does not announce";
 }
 
 // Actions
@@ -402,7 +408,7 @@ TEST_F(StatusMenuTest, AnItemWithoutAValueOfItsKindDoesNothing)
         {"Focus Music / Lush", MusicPreset::lush},
     };
     for (const auto& [path, value] : cases) {
-        auto item = *menuItem(*controller().statusMenu(), path);
+        auto item = *menuItem(*controller().statusMenu().menu(), path);
         item.representedObject = value;
 
         item.action(item);
