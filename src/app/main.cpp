@@ -65,7 +65,8 @@ int run(QApplication& application)
     QtWorkspace workspace;
     QtCalendar calendar;
     BuildBundle bundle;
-    PlistKeyValueStore defaults(PlistKeyValueStore::defaultPath());
+    // Static, so that the last write is waited for also where a library calls exit(), as when the X server goes.
+    static PlistKeyValueStore defaults(PlistKeyValueStore::defaultPath());
     const std::filesystem::path folder = QCoreApplication::applicationDirPath().toStdString();
     CanberraSoundLibrary sounds(CanberraSoundLibrary::folderOf(folder));
     ProcessStreamPlayerFactory streamPlayers(ProcessStreamPlayerFactory::programOf(folder), runLoop);

@@ -23,8 +23,8 @@ public:
     /// Absent when there is nothing under `key`, or something of a kind not listed above.
     [[nodiscard]] virtual std::optional<StoredValue> object(std::string_view key) const = 0;
 
-    /// The value is in memory in any case, and durable when this returns unless the medium
-    /// refuses; then the next call tries again.
+    /// The value is in memory when this returns, and handed over to be written; the disk is never waited
+    /// for. What can't be written is tried again with the next call and at the end of the program.
     virtual void set(std::string_view key, StoredValue value) = 0;
 
     /// Absent also when the value is of another type.

@@ -24,6 +24,7 @@
 #include <unistd.h>
 
 namespace fs = std::filesystem;
+using namespace std::chrono_literals;
 
 namespace velto {
 
@@ -75,6 +76,12 @@ protected:
     const fs::path file = folder.path() / "config" / "velto" / "defaults.plist";
 };
 
+void assign(PlistKeyValueStore& store, std::string_view key, StoredValue value)
+{
+    store.set(key, std::move(value));
+    ASSERT_TRUE(store.waitUntilWritten(30s));
+}
+
 /// Runs `work` in a process of its own; true when it returned true.
 bool inAnotherProcess(const std::function<bool()>& work)
 {
@@ -99,12 +106,12 @@ TEST_F(PlistKeyValueStoreTest, WhatIsAssignedIsThereInTheNextRun)
 {
     {
         PlistKeyValueStore store{file};
-        store.set("focusMinutes", std::int64_t{50});
-        store.set("autoTransition", true);
-        store.set("musicVolume", 1.7F);
-        store.set("focusCustomURL", std::string{"https://example.org/?a=1&b=<2>"});
-        store.set("focusEndSound", Blob{0x22, 'N', 'o', 'n', 'e', 0x22});
-        store.set("focusMinutes", std::int64_t{-3});
+        assign(store, "focusMinutes", std::int64_t{50});
+        assign(store, "autoTransition", true);
+        assign(store, "musicVolume", 1.7F);
+        assign(store, "focusCustomURL", std::string{"https://example.org/?a=1&b=<2>"});
+        assign(store, "focusEndSound", Blob{0x22, 'N', 'o', 'n', 'e', 0x22});
+        assign(store, "focusMinutes", std::int64_t{-3});
     }
 
     const PlistKeyValueStore store{file};
@@ -120,9 +127,9 @@ TEST_F(PlistKeyValueStoreTest, WhatIsAssignedIsThereInTheNextRun)
 TEST_F(PlistKeyValueStoreTest, TheFileIsAnXmlPropertyList)
 {
     PlistKeyValueStore store{file};
-    store.set("focusMinutes", std::int64_t{50});
-    store.set("autoTransition", true);
-    store.set("musicVolume", 0.25F);
+    assign(store, "focusMinutes", std::int64_t{50});
+    assign(store, "autoTransition", true);
+    assign(store, "musicVolume", 0.25F);
 
     const std::string xml = read(file);
     EXPECT_TRUE(xml.starts_with("<?xml")) << xml;
@@ -131,13 +138,38 @@ TEST_F(PlistKeyValueStoreTest, TheFileIsAnXmlPropertyList)
     EXPECT_NE(xml.find("<key>musicVolume</key>\n\t<real>0.25</real>"), std::string::npos) << xml;
 }
 
+TEST_F(PlistKeyValueStoreTest, TheLastOfManyAssignmentsWins)
+{
+    {
+        PlistKeyValueStore store{file};
+        for (std::int64_t number = 0; number <= 1000; ++number)
+            store.set("number", number);
+        EXPECT_EQ(store.value<std::int64_t>("number"), 1000);
+    }
+
+    EXPECT_EQ(PlistKeyValueStore{file}.value<std::int64_t>("number"), 1000);
+}
+
+TEST_F(PlistKeyValueStoreTest, WhatCouldNotBeWrittenIsTriedAgainAtTheEnd)
+{
+    const fs::path inTheWay = folder.path() / "config";
+    write("a file where the folder belongs", inTheWay);
+    {
+        PlistKeyValueStore store{file};
+        assign(store, "focusMinutes", std::int64_t{50});
+        fs::remove(inTheWay);
+    }
+
+    EXPECT_EQ(PlistKeyValueStore{file}.value<std::int64_t>("focusMinutes"), 50);
+}
+
 TEST_F(PlistKeyValueStoreTest, OnlyTheUserMayReadIt)
 {
     const mode_t before = ::umask(0);
     PlistKeyValueStore store{file};
-    store.set("focusMinutes", std::int64_t{50});
+    assign(store, "focusMinutes", std::int64_t{50});
     fs::permissions(file, fs::perms{0644});
-    store.set("focusMinutes", std::int64_t{51});
+    assign(store, "focusMinutes", std::int64_t{51});
     ::umask(before);
 
     EXPECT_EQ(modeOf(file), 0600U);
@@ -154,7 +186,7 @@ TEST_F(PlistKeyValueStoreTest, EntriesOfOthersStay)
     EXPECT_EQ(store.value<std::int64_t>("focusMinutes"), std::nullopt);
     EXPECT_EQ(store.object("theirs"), std::nullopt);
 
-    store.set("breakMinutes", std::int64_t{7});
+    assign(store, "breakMinutes", std::int64_t{7});
 
     const std::string xml = read(file);
     EXPECT_NE(xml.find("<key>theirs</key>\n\t<array>\n\t\t<integer>1</integer>\n\t</array>"), std::string::npos) << xml;
@@ -172,12 +204,12 @@ TEST_F(PlistKeyValueStoreTest, AFileThatIsNoPropertyListIsMovedAside)
         PlistKeyValueStore store{file};
         EXPECT_EQ(store.object("focusMinutes"), std::nullopt);
         EXPECT_EQ(read(file), content) << "touched before the first assignment";
-        store.set("focusMinutes", std::int64_t{50});
+        assign(store, "focusMinutes", std::int64_t{50});
 
         ASSERT_EQ(corruptOnes().size(), 1U);
         EXPECT_EQ(read(corruptOnes().front()), content);
         EXPECT_EQ(PlistKeyValueStore{file}.value<std::int64_t>("focusMinutes"), 50);
-        store.set("focusMinutes", std::int64_t{51});
+        assign(store, "focusMinutes", std::int64_t{51});
         EXPECT_EQ(corruptOnes().size(), 1U);
     }
 }
@@ -207,7 +239,7 @@ TEST_F(PlistKeyValueStoreTest, WhatIsNoPlainFileDoesNotHoldUpTheStart)
     ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0);
 
     PlistKeyValueStore store{file};
-    store.set("focusMinutes", std::int64_t{50});
+    assign(store, "focusMinutes", std::int64_t{50});
 
     EXPECT_EQ(corruptOnes().size(), 1U);
     EXPECT_EQ(PlistKeyValueStore{file}.value<std::int64_t>("focusMinutes"), 50);
@@ -218,7 +250,7 @@ TEST_F(PlistKeyValueStoreTest, AFolderInTheWayCostsNothingInMemory)
     fs::create_directories(file);
 
     PlistKeyValueStore store{file};
-    store.set("focusMinutes", std::int64_t{50});
+    assign(store, "focusMinutes", std::int64_t{50});
 
     EXPECT_EQ(store.value<std::int64_t>("focusMinutes"), 50);
     EXPECT_TRUE(fs::is_directory(file));
@@ -250,7 +282,7 @@ TEST_F(PlistKeyValueStoreTest, ALinkToItselfCostsNothingInMemory)
     fs::create_symlink("defaults.plist", file);
 
     PlistKeyValueStore store{file};
-    store.set("focusMinutes", std::int64_t{50});
+    assign(store, "focusMinutes", std::int64_t{50});
 
     EXPECT_EQ(store.value<std::int64_t>("focusMinutes"), 50);
 }
@@ -269,13 +301,13 @@ TEST_F(PlistKeyValueStoreTest, AFullDiskCostsNothingAndTheNextAssignmentTriesAga
         ::setrlimit(RLIMIT_FSIZE, &limit);
         PlistKeyValueStore store{file};
 
-        store.set("breakMinutes", std::int64_t{7});
+        assign(store, "breakMinutes", std::int64_t{7});
         const bool isInMemory = store.value<std::int64_t>("breakMinutes") == 7;
         const bool isUntouched = read(file) == before && namesIn(file.parent_path()).size() == 1;
 
         limit.rlim_cur = limit.rlim_max;
         ::setrlimit(RLIMIT_FSIZE, &limit);
-        store.set("autoTransition", true);
+        assign(store, "autoTransition", true);
         return isInMemory && isUntouched;
     });
 
@@ -305,12 +337,12 @@ TEST_F(PlistKeyValueStoreTest, AReadOnlyFolderCostsNothingAndTheNextAssignmentTr
         fs::permissions(file.parent_path(), fs::perms{0500});
         PlistKeyValueStore store{file};
 
-        store.set("breakMinutes", std::int64_t{7});
+        assign(store, "breakMinutes", std::int64_t{7});
         const bool isInMemory = store.value<std::int64_t>("breakMinutes") == 7;
         const bool isUntouched = !PlistKeyValueStore{file}.object("breakMinutes");
 
         fs::permissions(file.parent_path(), fs::perms{0700});
-        store.set("breakMinutes", std::int64_t{7});
+        assign(store, "breakMinutes", std::int64_t{7});
         return isInMemory && isUntouched;
     });
 
@@ -334,11 +366,11 @@ TEST_F(PlistKeyValueStoreTest, AFileThatMayNotBeReadStaysUntilItMay)
         }
         fs::permissions(file, fs::perms{0});
         PlistKeyValueStore store{file};
-        store.set("breakMinutes", std::int64_t{7});
+        assign(store, "breakMinutes", std::int64_t{7});
         const bool isUntouched = modeOf(file) == 0 && namesIn(file.parent_path()).size() == 1;
 
         fs::permissions(file, fs::perms{0600});
-        store.set("autoTransition", true);
+        assign(store, "autoTransition", true);
         return isUntouched;
     });
 
@@ -360,11 +392,11 @@ TEST_F(PlistKeyValueStoreTest, AFileThatCannotBeReadNowStaysUntilItCan)
         ::setrlimit(RLIMIT_NOFILE, &none);
         PlistKeyValueStore store{file};
         const bool isDefault = !store.object("focusMinutes");
-        store.set("breakMinutes", std::int64_t{7});
+        assign(store, "breakMinutes", std::int64_t{7});
 
         ::setrlimit(RLIMIT_NOFILE, &limit);
         const bool isUntouched = read(file) == storedFocus && namesIn(file.parent_path()).size() == 1;
-        store.set("autoTransition", true);
+        assign(store, "autoTransition", true);
         return isDefault && isUntouched;
     });
 
@@ -379,13 +411,13 @@ TEST_F(PlistKeyValueStoreTest, AFileThatCannotBeReadNowStaysUntilItCan)
 TEST_F(PlistKeyValueStoreTest, WhatAnotherHandChangedStays)
 {
     PlistKeyValueStore store{file};
-    store.set("focusMinutes", std::int64_t{50});
+    assign(store, "focusMinutes", std::int64_t{50});
     PlistKeyValueStore other{file};
-    store.set("breakMinutes", std::int64_t{7});
+    assign(store, "breakMinutes", std::int64_t{7});
 
-    other.set("focusMinutes", std::int64_t{40});
-    other.set("theirs", std::string{"kept"});
-    store.set("autoTransition", true);
+    assign(other, "focusMinutes", std::int64_t{40});
+    assign(other, "theirs", std::string{"kept"});
+    assign(store, "autoTransition", true);
 
     const PlistKeyValueStore next{file};
     EXPECT_EQ(next.value<std::int64_t>("focusMinutes"), 40);
@@ -424,10 +456,10 @@ TEST_F(PlistKeyValueStoreTest, ManyWhoWriteAtOnceLoseNothing)
 TEST_F(PlistKeyValueStoreTest, ABrokenFilePutThereMeanwhileIsMovedAsideAndNothingIsLost)
 {
     PlistKeyValueStore store{file};
-    store.set("focusMinutes", std::int64_t{50});
+    assign(store, "focusMinutes", std::int64_t{50});
     write("broken", file);
 
-    store.set("breakMinutes", std::int64_t{7});
+    assign(store, "breakMinutes", std::int64_t{7});
 
     ASSERT_EQ(corruptOnes().size(), 1U);
     EXPECT_EQ(read(corruptOnes().front()), "broken");
@@ -439,10 +471,10 @@ TEST_F(PlistKeyValueStoreTest, ABrokenFilePutThereMeanwhileIsMovedAsideAndNothin
 TEST_F(PlistKeyValueStoreTest, AFileThatWasRemovedMeanwhileIsWrittenWhole)
 {
     PlistKeyValueStore store{file};
-    store.set("focusMinutes", std::int64_t{50});
+    assign(store, "focusMinutes", std::int64_t{50});
     fs::remove_all(file.parent_path());
 
-    store.set("breakMinutes", std::int64_t{7});
+    assign(store, "breakMinutes", std::int64_t{7});
 
     const PlistKeyValueStore next{file};
     EXPECT_EQ(next.value<std::int64_t>("focusMinutes"), 50);
@@ -467,8 +499,8 @@ TEST_F(PlistKeyValueStoreTest, SettingsThatCannotBeSavedAreSaidOnce)
 
     {
         PlistKeyValueStore store{file};
-        store.set("focusMinutes", std::int64_t{50});
-        store.set("focusMinutes", std::int64_t{51});
+        assign(store, "focusMinutes", std::int64_t{50});
+        assign(store, "focusMinutes", std::int64_t{51});
     }
 
     EXPECT_EQ(
@@ -478,11 +510,11 @@ TEST_F(PlistKeyValueStoreTest, SettingsThatCannotBeSavedAreSaidOnce)
 TEST_F(PlistKeyValueStoreTest, WhatCouldNotBeReadAgainIsNotWritten)
 {
     PlistKeyValueStore store{file};
-    store.set("focusMinutes", std::int64_t{50});
-    store.set("focusCustomURL", std::string(PropertyList::maximumSize, 'x'));
+    assign(store, "focusMinutes", std::int64_t{50});
+    assign(store, "focusCustomURL", std::string(PropertyList::maximumSize, 'x'));
 
     EXPECT_EQ(PlistKeyValueStore{file}.value<std::int64_t>("focusMinutes"), 50);
-    store.set("focusCustomURL", std::string{"short"});
+    assign(store, "focusCustomURL", std::string{"short"});
     EXPECT_EQ(PlistKeyValueStore{file}.value<std::string>("focusCustomURL"), "short");
 }
 
