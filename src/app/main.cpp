@@ -4,6 +4,7 @@
 #include "desktop/session/Appearance.h"
 #include "desktop/session/BackgroundOutput.h"
 #include "desktop/session/BuildBundle.h"
+#include "desktop/session/EndSignals.h"
 #include "desktop/session/QtApplication.h"
 #include "desktop/session/QtCalendar.h"
 #include "desktop/session/QtRunLoop.h"
@@ -82,6 +83,8 @@ int run(QApplication& application)
                   std::make_unique<SettingsSheet>(settings, timer, runLoop, std::move(dismiss)), presenter, screens,
                   hidePanel, focus == FloatingWindow::Focus::taken ? focus : FloatingWindow::Focus::whenUsed);
           };
+
+    const EndSignals endSignals([&] { desktopApplication.terminate(); });
 
     Platform platform{
         .runLoop = runLoop,

@@ -3,6 +3,7 @@
 import os
 import signal
 import stat
+import time
 import unittest
 
 from desktop import VirtualDesktop, holds, wait_for
@@ -61,6 +62,18 @@ class TheProcess(unittest.TestCase):
         velto.item.choose("Quit")
 
         self.assertEqual(velto.wait(), 0)
+
+    def test_it_ends_well_within_a_second_when_it_is_told_to(self):
+        for chosen_signal in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+            with self.subTest(signal=chosen_signal):
+                velto = self.start({})
+                velto.item.choose("Auto-Transition")
+                start = time.monotonic()
+
+                self.assertEqual(velto.kill(chosen_signal), 0)
+
+                self.assertLess(time.monotonic() - start, 1)
+                self.assertTrue(velto.settings["autoTransition"])
 
     def test_settings_outlive_every_end(self):
         for chosen_signal in (signal.SIGTERM, signal.SIGKILL, signal.SIGINT):
