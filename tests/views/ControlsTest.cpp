@@ -29,7 +29,8 @@ protected:
         window.setLayout(column({.spacing = 12, .alignment = {}}, button, toggle, slider, picker, field));
         picker->addItems({"None", "Basso", "Blow"});
         window.show();
-        QApplication::setActiveWindow(&window);
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
     static QAccessibleInterface& accessible(QWidget* widget) { return *QAccessible::queryAccessibleInterface(widget); }

@@ -16,6 +16,8 @@ namespace velto {
 
 namespace {
 
+using namespace Qt::StringLiterals;
+
 struct Owner : ObservableObject {
     Published<std::int64_t> value{*this, 25};
 };
@@ -54,19 +56,19 @@ const auto inputs = std::vector<Input>{
     {"Exponent", "1e3", "13", 13, "13"},
     {"Picture",
         u"\U0001F345"
-        "10"_qs,
+        "10"_s,
         "10", 10, "10"},
-    {"ArabicDigit", u"٣"_qs, u"٣"_qs, 25, "25"},
-    {"DevanagariDigit", u"५"_qs, u"५"_qs, 25, "25"},
-    {"ThaiDigitAfterAsciiOnes", u"1๕"_qs, u"1๕"_qs, 25, "25"},
-    {"FullWidthDigit", u"７"_qs, u"７"_qs, 25, "25"},
-    {"MathematicalDigit", u"\U0001D7D7"_qs, u"\U0001D7D7"_qs, 25, "25"},
-    {"Fraction", u"½"_qs, u"½"_qs, 25, "25"},
-    {"RomanNumeral", u"Ⅻ"_qs, u"Ⅻ"_qs, 25, "25"},
-    {"CircledDigit", u"①"_qs, u"①"_qs, 25, "25"},
-    {"Superscript", u"3²"_qs, u"3²"_qs, 25, "25"},
-    {"ChineseNumberWord", u"三"_qs, "", 25, "25"},
-    {"OtherScriptAndLetters", u"x٣y"_qs, u"٣"_qs, 25, "25"},
+    {"ArabicDigit", u"٣"_s, u"٣"_s, 25, "25"},
+    {"DevanagariDigit", u"५"_s, u"५"_s, 25, "25"},
+    {"ThaiDigitAfterAsciiOnes", u"1๕"_s, u"1๕"_s, 25, "25"},
+    {"FullWidthDigit", u"７"_s, u"７"_s, 25, "25"},
+    {"MathematicalDigit", u"\U0001D7D7"_s, u"\U0001D7D7"_s, 25, "25"},
+    {"Fraction", u"½"_s, u"½"_s, 25, "25"},
+    {"RomanNumeral", u"Ⅻ"_s, u"Ⅻ"_s, 25, "25"},
+    {"CircledDigit", u"①"_s, u"①"_s, 25, "25"},
+    {"Superscript", u"3²"_s, u"3²"_s, 25, "25"},
+    {"ChineseNumberWord", u"三"_s, "", 25, "25"},
+    {"OtherScriptAndLetters", u"x٣y"_s, u"٣"_s, 25, "25"},
 };
 
 class Window : public QWidget {

@@ -105,7 +105,8 @@ protected:
         timer = std::make_unique<PomodoroTimer>(*settings, runLoop, players);
         view = std::make_unique<PanelContainerView>(*timer, *settings, Size{360, 420}, runLoop, bundle, makeSheet);
         view->show();
-        QApplication::setActiveWindow(view.get());
+        view->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(view.get()));
         look();
     }
 

@@ -141,7 +141,8 @@ private:
         slider->setFixedWidth(300);
         field->setFixedWidth(300);
         view.show();
-        QApplication::setActiveWindow(&view);
+        view.activateWindow();
+        QApplication::processEvents();
         view.setAttribute(Qt::WA_KeyboardFocusChange);
         save(view, "controls");
         for (QWidget* focused : std::initializer_list<QWidget*>{toggle, slider, picker, play, field, apply, cancel}) {

@@ -175,7 +175,12 @@ PropertyList::Node PropertyList::parseNode(std::string_view bytes)
 {
     const PlainNumbers plainNumbers;
     plist_t node = nullptr;
-    plist_from_memory(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &node);
+    const auto length = static_cast<std::uint32_t>(bytes.size());
+    // Not plist_from_memory: newer versions of it take JSON, too.
+    if (plist_is_binary(bytes.data(), length))
+        plist_from_bin(bytes.data(), length, &node);
+    else
+        plist_from_xml(bytes.data(), length, &node);
     return Node{node};
 }
 

@@ -12,6 +12,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <QtGui/private/qguiapplication_p.h>
 
 #include <algorithm>
 #include <utility>
@@ -253,7 +254,7 @@ void FloatingWindow::claimFocus()
 void FloatingWindow::activateWidgets()
 {
     if (QGuiApplication::focusWindow() == windowHandle())
-        QApplication::setActiveWindow(this);
+        QGuiApplicationPrivate::instance()->notifyActiveWindowChange(nullptr);
 }
 
 void FloatingWindow::returnFocus()

@@ -37,7 +37,7 @@ std::string binary(plist_t root)
     std::uint32_t length = 0;
     plist_to_bin(root, &bytes, &length);
     std::string result{bytes, length};
-    plist_to_bin_free(bytes);
+    std::free(bytes);
     plist_free(root);
     return result;
 }
