@@ -44,15 +44,6 @@ _OPENBOX = """<?xml version="1.0" encoding="UTF-8"?>
 </openbox_config>
 """
 
-# A face made for screens, as desktops have one for their own texts.
-_FONTS = """<?xml version="1.0"?>
-<!DOCTYPE fontconfig SYSTEM "fonts.dtd">
-<fontconfig>
-  <alias binding="strong"><family>sans-serif</family><prefer><family>Inter</family></prefer></alias>
-  <alias binding="strong"><family>Sans</family><prefer><family>Inter</family></prefer></alias>
-</fontconfig>
-"""
-
 _TIME = re.compile(r"\d{2,}:\d\d")
 _ANNOUNCEMENT = re.compile(r'signal time=(\S+) sender=(\S+) .*member=XAyatanaNewLabel\n   string "([^"]*)"\n')
 
@@ -176,13 +167,14 @@ class VirtualDesktop:
     "xfwm4", "openbox", which starts the program on Control+Alt+V, or "none". `monitors` is a list of
     (width, height, x, y) inside `size`, the first being the main one; `bar_monitor` says which has the bar
     ("press" and "release" only).
-    `scale` is how many pixels a point has, `dark` the colour scheme that the desktop asks for."""
+    `scale` is how many pixels a point has, `dark` the colour scheme that the desktop asks for, `font` the one family
+    for its texts: no other font of the machine is seen."""
 
     def __init__(self, host="xfce", wm="xfwm4", size=(1280, 800), monitors=(), scale=1, dark=False,
-                 compositing=False, bar_monitor=0, verbose=False):
+                 compositing=False, bar_monitor=0, font="Inter", verbose=False):
         self._host_kind, self._wm_kind, self.size = host, wm, size
         self.monitors, self.scale, self.dark, self._compositing = monitors, scale, dark, compositing
-        self.bar_monitor, self._verbose = bar_monitor, verbose
+        self.bar_monitor, self._font, self._verbose = bar_monitor, font, verbose
         self._processes = []
         self.host = None
 
@@ -225,6 +217,7 @@ class VirtualDesktop:
             "XDG_STATE_HOME": self.path("state"),
             "XDG_RUNTIME_DIR": self.path("runtime"),
             "XDG_SESSION_TYPE": "x11",
+            "FONTCONFIG_FILE": self.path("fonts.conf"),
             "GSETTINGS_BACKEND": "memory",
             "QT_QPA_PLATFORM": "xcb",
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
@@ -237,9 +230,9 @@ class VirtualDesktop:
         os.mkdir(self.path("config/pulse"))
         with open(self.path("config/pulse/client.conf"), "w", encoding="utf-8") as file:
             file.write("autospawn = no\n")
-        os.mkdir(self.path("config/fontconfig"))
-        with open(self.path("config/fontconfig/fonts.conf"), "w", encoding="utf-8") as file:
-            file.write(_FONTS)
+        with open(os.path.join(_HERE, "fonts.conf.in"), encoding="utf-8") as template:
+            with open(self.path("fonts.conf"), "w", encoding="utf-8") as file:
+                file.write(template.read().replace("@FONT@", self._font))
 
         self._start_x_server()
         self._start_bus()

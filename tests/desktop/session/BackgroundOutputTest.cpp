@@ -32,7 +32,7 @@ protected:
     {
         output.reset();
         closeReadingEnd();
-        close(ends[1]);
+        // The other end stays open: a writer that was left behind would write to whatever gets its number next.
     }
 
     std::string read(std::size_t size) const
