@@ -55,8 +55,8 @@ void setWindowClass(const QString& windowClass)
 int run(QApplication& application)
 {
     SingleInstance instance([] { NotificationCenter::defaultCenter().post(statusBarShowTimer); });
-    if (!instance.claim())
-        return 0;
+    if (const auto status = instance.claim())
+        return *status;
 
     const BackgroundOutput output(std::cout, STDOUT_FILENO);
     const Appearance appearance;

@@ -7,6 +7,7 @@
 #include <QDBusMessage>
 #include <QDBusReply>
 
+#include <iostream>
 #include <utility>
 
 namespace velto {
@@ -17,8 +18,16 @@ const QString serviceName = QStringLiteral("org.velto.Velto");
 const QString objectPath = QStringLiteral("/org/velto/Velto");
 const QString interfaceName = QStringLiteral("org.freedesktop.Application");
 
-constexpr int attempts = 5;
 constexpr int answerTimeout = 5000; // ms
+
+void sayWhatIsInTheWay(uint process, bool isStranger)
+{
+    if (isStranger)
+        std::cerr << "velto: another program, process " << process << ", has the name " << serviceName.toStdString()
+                  << " on the session bus\n";
+    else
+        std::cerr << "velto: already running as process " << process << ", which does not answer\n";
+}
 
 } // namespace
 
@@ -31,28 +40,33 @@ SingleInstance::~SingleInstance()
     bus.unregisterObject(objectPath);
 }
 
-bool SingleInstance::claim()
+std::optional<int> SingleInstance::claim()
 {
     auto bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
-        return true;
+        return std::nullopt;
 
     // Before the name: who owns it can be called at once.
     bus.registerObject(objectPath, this, QDBusConnection::ExportAllSlots);
-    for (int attempt = 0; attempt < attempts; ++attempt) {
+    while (true) {
         const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply
             = bus.interface()->registerService(serviceName);
         if (!reply.isValid() || reply.value() == QDBusConnectionInterface::ServiceRegistered)
-            return true;
+            return std::nullopt;
 
-        auto call = QDBusMessage::createMethodCall(serviceName, objectPath, interfaceName, QStringLiteral("Activate"));
-        call.setAutoStartService(false);
+        const QString owner = bus.interface()->serviceOwner(serviceName);
+        auto call = QDBusMessage::createMethodCall(owner, objectPath, interfaceName, QStringLiteral("Activate"));
         call << QVariantMap{};
-        // An owner that is gone by now has left the name to us.
-        if (QDBusError{bus.call(call, QDBus::Block, answerTimeout)}.type() != QDBusError::ServiceUnknown)
-            return false;
+        const QDBusError error{bus.call(call, QDBus::Block, answerTimeout)};
+        if (!error.isValid())
+            return 0;
+        // One that has ended meanwhile has left the name to us.
+        if (owner.isEmpty() || !bus.interface()->isServiceRegistered(owner))
+            continue;
+        const bool isStranger = error.type() != QDBusError::NoReply && error.type() != QDBusError::Timeout;
+        sayWhatIsInTheWay(bus.interface()->servicePid(owner), isStranger);
+        return 1;
     }
-    return true;
 }
 
 void SingleInstance::Activate(const QVariantMap& /*platformData*/)

@@ -5,6 +5,7 @@
 #include <QVariantMap>
 
 #include <functional>
+#include <optional>
 
 namespace velto {
 
@@ -20,9 +21,10 @@ public:
     explicit SingleInstance(std::function<void()> activated);
     ~SingleInstance() override;
 
-    /// True when this process is the one to run, which it also is without a session bus. Otherwise the
-    /// running one has been asked to show itself, and this process should leave. Waits for its answer.
-    [[nodiscard]] bool claim();
+    /// Absent when this process is the one to run, which it also is without a session bus. Else it should leave with
+    /// this status: 0 when the running one has shown itself, 1 when that one does not answer within 5 s or the name
+    /// belongs to another program, which a line on standard error then says. Waits for the answer.
+    [[nodiscard]] std::optional<int> claim();
 
 public slots:
     void Activate(const QVariantMap& platformData);

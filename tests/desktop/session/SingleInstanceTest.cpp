@@ -3,12 +3,16 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusInterface>
 #include <QProcess>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
+
+#include <csignal>
 
 namespace velto {
 
@@ -19,6 +23,15 @@ constexpr int patience = 30000; // ms
 QProcess* launch()
 {
     return Desktop::current().start(QStringLiteral(INSTANCE));
+}
+
+/// Its status and what it says on standard error.
+std::pair<int, QByteArray> launchAndWait()
+{
+    QProcess process;
+    process.start(QStringLiteral(INSTANCE), QStringList());
+    process.waitForFinished(patience);
+    return {process.exitCode(), process.readAllStandardError()};
 }
 
 bool isRunning(QProcess& process)
@@ -80,6 +93,50 @@ TEST(SingleInstanceTest, WithTheFirstGoneTheNextOneRuns)
     ASSERT_TRUE(first->waitForFinished(patience));
 
     EXPECT_TRUE(isRunning(*launch()));
+}
+
+TEST(SingleInstanceTest, OneThatDoesNotAnswerIsNamedAsWhatIsInTheWay)
+{
+    QProcess* first = launch();
+    ASSERT_TRUE(isRunning(*first));
+    ASSERT_EQ(kill(static_cast<pid_t>(first->processId()), SIGSTOP), 0);
+
+    const auto second = launchAndWait();
+    first->kill();
+
+    EXPECT_EQ(second,
+        std::pair(1,
+            QStringLiteral("velto: already running as process %1, which does not answer\n")
+                .arg(first->processId())
+                .toUtf8()));
+}
+
+TEST(SingleInstanceTest, OneThatDiesWhileItIsAskedMakesRoom)
+{
+    QProcess* first = launch();
+    ASSERT_TRUE(isRunning(*first));
+    ASSERT_EQ(kill(static_cast<pid_t>(first->processId()), SIGSTOP), 0);
+
+    QProcess* second = launch();
+    ASSERT_FALSE(second->waitForReadyRead(1000)) << "it waits for the first";
+    first->kill();
+
+    EXPECT_TRUE(isRunning(*second));
+}
+
+TEST(SingleInstanceTest, AStrangerWithTheNameIsSaidToBeInTheWay)
+{
+    auto stranger = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("stranger"));
+    ASSERT_TRUE(stranger.registerService(QStringLiteral("org.velto.Velto")));
+
+    const auto second = launchAndWait();
+    QDBusConnection::disconnectFromBus(QStringLiteral("stranger"));
+
+    EXPECT_EQ(second,
+        std::pair(1,
+            QStringLiteral("velto: another program, process %1, has the name org.velto.Velto on the session bus\n")
+                .arg(QCoreApplication::applicationPid())
+                .toUtf8()));
 }
 
 TEST(SingleInstanceTest, TheDesktopEntryActivatesItToo)

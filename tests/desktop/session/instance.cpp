@@ -10,8 +10,8 @@ int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     velto::SingleInstance instance{[] { std::cout << "activated" << std::endl; }};
-    if (!instance.claim())
-        return 0;
+    if (const auto status = instance.claim())
+        return *status;
     std::cout << "running" << std::endl;
     return application.exec();
 }
