@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "stream/StreamPlayback.h"
 
-#include "stream/WebAddress.h"
+#include "stream/RequestRules.h"
 
 #include <gio/gio.h>
 #include <unistd.h>
@@ -29,7 +29,7 @@ constexpr guint64 mostBuffered = 4 * GST_SECOND;
 /// Of the flags of playbin, which has no header: sound, and nothing else.
 constexpr unsigned playAudio = 1U << 1;
 
-[[noreturn]] void giveUp(std::string_view reason)
+[[noreturn]] void giveUp(const std::string& reason)
 {
     std::cerr << "velto.audio: " << reason << std::endl;
     _exit(EXIT_FAILURE);
@@ -80,39 +80,6 @@ void initialise()
     }
 }
 
-/// The location that a server's answer points to; empty when it is no redirection.
-std::string redirectionIn(const GstStructure* answer)
-{
-    unsigned status = 0;
-    GstStructure* fields = nullptr;
-    std::string location;
-    if (answer && gst_structure_get_uint(answer, "http-status-code", &status) && status >= 300 && status < 400
-        && gst_structure_get(answer, "response-headers", GST_TYPE_STRUCTURE, &fields, nullptr)) {
-        for (int i = 0; i < gst_structure_n_fields(fields); ++i) {
-            const char* name = gst_structure_nth_field_name(fields, static_cast<unsigned>(i));
-            const char* value = gst_structure_get_string(fields, name);
-            if (value && g_ascii_strcasecmp(name, "Location") == 0)
-                location = value;
-        }
-        gst_structure_free(fields);
-    }
-    return location;
-}
-
-/// Where a redirection leads, empty when it must not be followed: away from the web, or from a protected to an
-/// unprotected connection.
-std::string redirectionTarget(const std::string& from, const std::string& location)
-{
-    char* resolved = g_uri_resolve_relative(from.c_str(), location.c_str(), G_URI_FLAGS_ENCODED, nullptr);
-    std::string target = resolved ? resolved : "";
-    g_free(resolved);
-
-    const auto isProtected = [](const std::string& url) { return g_ascii_strncasecmp(url.c_str(), "https:", 6) == 0; };
-    if (!isWebAddress(target) || (isProtected(from) && !isProtected(target)))
-        return {};
-    return target;
-}
-
 void onUnderrun(GstElement* queue, gpointer)
 {
     g_object_set(queue, "min-threshold-time", leastBuffered, nullptr);
@@ -146,11 +113,9 @@ GstElement* makeOutput()
 
 } // namespace
 
-StreamPlayback::StreamPlayback(
-    std::string url, const std::atomic<float>& volume, std::function<void(const std::string&)> follow) :
+StreamPlayback::StreamPlayback(std::string url, const std::atomic<float>& volume) :
     m_url(std::move(url)),
-    m_level(volume),
-    m_follow(std::move(follow))
+    m_level(volume)
 {
 }
 
@@ -160,12 +125,13 @@ void StreamPlayback::start()
     expectSound(patienceAtFirst);
     initialise();
 
-    std::cerr << "velto.audio: opening " << m_url << std::endl;
+    holdRequestsToTheFirst(giveUp);
+
     expectSound(patience);
     auto* pipeline = makeElement("playbin");
     g_object_set(pipeline, "uri", m_url.c_str(), "audio-sink", makeSink(), "flags", playAudio, nullptr);
-    g_signal_connect(pipeline, "source-setup", G_CALLBACK(onSourceSetup), this);
-    gst_bus_set_sync_handler(gst_element_get_bus(pipeline), onMessage, this, nullptr);
+    g_signal_connect(pipeline, "source-setup", G_CALLBACK(onSourceSetup), nullptr);
+    gst_bus_set_sync_handler(gst_element_get_bus(pipeline), onMessage, nullptr, nullptr);
     if (gst_element_set_state(pipeline, GST_STATE_PLAYING) == GST_STATE_CHANGE_FAILURE)
         giveUp("the stream can't be opened");
 }
@@ -195,13 +161,12 @@ GstElement* StreamPlayback::makeSink()
 
 void StreamPlayback::onSourceSetup(GstElement*, GstElement* source, gpointer)
 {
-    // Redirections and retries are ours to decide on.
-    g_object_set(source, "automatic-redirect", FALSE, "retries", 0, "ssl-strict", TRUE, "user-agent", "velto", nullptr);
+    // Retries are velto's to decide on.
+    g_object_set(source, "retries", 0, "ssl-strict", TRUE, "user-agent", "velto", nullptr);
 }
 
-GstBusSyncReply StreamPlayback::onMessage(GstBus*, GstMessage* message, gpointer playback)
+GstBusSyncReply StreamPlayback::onMessage(GstBus*, GstMessage* message, gpointer)
 {
-    const auto& self = *static_cast<StreamPlayback*>(playback);
     switch (GST_MESSAGE_TYPE(message)) {
     case GST_MESSAGE_ERROR: {
         GError* error = nullptr;
@@ -211,14 +176,6 @@ GstBusSyncReply StreamPlayback::onMessage(GstBus*, GstMessage* message, gpointer
     }
     case GST_MESSAGE_EOS:
         giveUp("end of stream");
-    case GST_MESSAGE_ELEMENT:
-        if (const auto location = redirectionIn(gst_message_get_structure(message)); !location.empty()) {
-            const auto target = redirectionTarget(self.m_url, location);
-            if (target.empty())
-                giveUp("not to be followed: " + location);
-            self.m_follow(target);
-        }
-        break;
     default:
         break;
     }

@@ -4,7 +4,6 @@
 #include <gst/gst.h>
 
 #include <atomic>
-#include <functional>
 #include <string>
 
 namespace velto {
@@ -15,9 +14,8 @@ namespace velto {
 /// sound for too long, for whatever reason.
 class StreamPlayback {
 public:
-    /// `volume` is linear, 0 to 1, and may change at any time; it must outlive this. `follow` is called on another
-    /// thread with the address to which the server redirects, if one may go there.
-    StreamPlayback(std::string url, const std::atomic<float>& volume, std::function<void(const std::string&)> follow);
+    /// `volume` is linear, 0 to 1, and may change at any time; it must outlive this.
+    StreamPlayback(std::string url, const std::atomic<float>& volume);
 
     /// Returns when all is under way; may hang like anything that has to do with a server.
     void start();
@@ -31,7 +29,6 @@ private:
 
     const std::string m_url;
     const std::atomic<float>& m_level;
-    const std::function<void(const std::string&)> m_follow;
     GstElement* m_volume = nullptr; ///< Applies the level.
 };
 

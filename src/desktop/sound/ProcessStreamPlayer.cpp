@@ -85,7 +85,6 @@ void ProcessStreamPlayer::open()
     }
     m_process.reset(new QProcess);
     m_process->setProgram(program);
-    m_process->setArguments({QString::fromLatin1(m_url.toEncoded()), QString::number(m_volume), QStringLiteral("0")});
     m_process->setStandardOutputFile(QProcess::nullDevice());
     if (audioLog().isDebugEnabled())
         m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -97,6 +96,8 @@ void ProcessStreamPlayer::open()
     });
     // May end at once.
     m_process->start();
+    if (m_process)
+        m_process->write(m_url.toEncoded() + '\n' + QByteArray::number(m_volume) + '\n');
 }
 
 void ProcessStreamPlayer::onEnd()

@@ -2,6 +2,7 @@
 #include "StreamTest.h"
 #include "support/FakeRunLoop.h"
 
+#include <QFile>
 #include <QLoggingCategory>
 
 #include <cmath>
@@ -302,6 +303,18 @@ TEST_F(ProcessStreamPlayerTest, IsSilentWithoutTheProgram)
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
     EXPECT_TRUE(eventually([&] { return Resources::now().areNoMoreThan(before); }))
         << before << " became " << Resources::now();
+}
+
+TEST_F(ProcessStreamPlayerTest, ShowsNobodyTheAddress)
+{
+    play(streams.url("silent?key=secret"));
+    ASSERT_TRUE(eventually([&] { return streams.requests() == 1; }));
+
+    for (const auto* file : {"cmdline", "environ"}) {
+        QFile shown(QString("/proc/%1/%2").arg(playing().at(0)).arg(file));
+        ASSERT_TRUE(shown.open(QIODevice::ReadOnly));
+        EXPECT_FALSE(shown.readAll().contains("secret")) << file;
+    }
 }
 
 TEST_F(ProcessStreamPlayerTest, FindsTheProgramBesideTheExecutable)

@@ -20,7 +20,8 @@ protected:
 
     void start(const std::string& url, const char* volume = "1")
     {
-        program = startProcess(VELTO_STREAM_PROGRAM, {QString::fromStdString(url), volume, "0"});
+        program = startProcess(VELTO_STREAM_PROGRAM, {});
+        program->write(QByteArray::fromStdString(url) + "\n" + volume + "\n");
     }
 
     [[nodiscard]] bool hasEnded() const { return program->state() == QProcess::NotRunning; }
@@ -112,7 +113,7 @@ TEST_F(StreamProgramTest, FollowsTenRedirectionsAndNoMore)
 
 TEST_F(StreamProgramTest, PlaysNothingButTheWeb)
 {
-    for (const auto* url : {"file:///etc/passwd", "", "playbin"}) {
+    for (const auto* url : {"file:///etc/passwd", "", "playbin", "http:///stream"}) {
         start(url);
         EXPECT_TRUE(endsInSilence(10s)) << url;
         EXPECT_NE(program->exitCode(), 0) << url;

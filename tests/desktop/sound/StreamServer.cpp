@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "StreamServer.h"
 
+#include "OwnNetwork.h"
+
 #include <QJsonDocument>
 #include <gtest/gtest.h>
 
@@ -9,7 +11,8 @@ namespace velto {
 StreamServer::StreamServer()
 {
     qputenv("SSL_CERT_FILE", VELTO_AUDIO_MATERIAL "/authority.pem");
-    m_process = startProcess("/usr/bin/python3", {"-B", VELTO_STREAM_SERVER, VELTO_AUDIO_MATERIAL});
+    m_process = startProcess("/usr/bin/python3",
+        {"-B", VELTO_STREAM_SERVER, VELTO_AUDIO_MATERIAL, OwnNetwork::isEntered() ? "0.0.0.0" : "127.0.0.1"});
     EXPECT_TRUE(eventually([this] {
         read();
         return !m_ports.isEmpty();
@@ -22,10 +25,10 @@ StreamServer::~StreamServer()
     m_process->waitForFinished();
 }
 
-std::string StreamServer::url(const QString& path, const QString& port) const
+std::string StreamServer::url(const QString& path, const QString& port, const QString& host) const
 {
     const auto* scheme = port == "plain" || port == "refused" ? "http" : "https";
-    return QString("%1://127.0.0.1:%2/%3").arg(scheme).arg(m_ports[port].toInt()).arg(path).toStdString();
+    return QString("%1://%2:%3/%4").arg(scheme, host).arg(m_ports[port].toInt()).arg(path).toStdString();
 }
 
 int StreamServer::connections()
@@ -46,6 +49,12 @@ int StreamServer::requests()
     return m_requests;
 }
 
+int StreamServer::forbiddenRequests()
+{
+    read();
+    return m_forbidden;
+}
+
 void StreamServer::read()
 {
     while (m_process->canReadLine()) {
@@ -55,6 +64,7 @@ void StreamServer::read()
         m_opened += event.contains("opened");
         m_closed += event.contains("closed");
         m_requests += event.contains("request");
+        m_forbidden += event["request"] == "/forbidden";
     }
 }
 

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""stream_server.py MATERIAL: a web radio server, well behaved and otherwise, on ports of its own choice.
+"""stream_server.py MATERIAL HOST: a web radio server, well behaved and otherwise, on ports of HOST of its own choice.
 
 Writes one line of JSON for everything that happens to standard output: first the ports, then
 {"opened": port}, {"request": path}, and {"closed": path} when the connection is gone. Ends when
@@ -15,7 +15,7 @@ import sys
 import threading
 import time
 
-MATERIAL = sys.argv[1]
+MATERIAL, HOST = sys.argv[1:]
 BYTES_A_SECOND = 16000
 BURST = 2 * BYTES_A_SECOND
 SEGMENT = 2  # seconds
@@ -107,6 +107,15 @@ class Connection:
                 start = int(rest) * size % (len(TONE) - size)
                 self.head(Content_Length=size)
                 self.stream.sendall(TONE[start:start + size])
+            case "redirect":
+                self.redirect(rest.replace("/", "://", 1))
+            case "segments":
+                self.body("200 OK", "application/vnd.apple.mpegurl",
+                          "#EXTM3U\n#EXT-X-VERSION:3\n#EXT-X-TARGETDURATION:60\n"
+                          f"#EXTINF:60,\n{rest.replace('/', '://', 1)}\n#EXT-X-ENDLIST\n")
+            case "forbidden":
+                self.head()
+                self.pour(TONE)
             case "silent":
                 self.wait()
             case "missing":
@@ -194,7 +203,7 @@ def listen(name, listener, context, ports):
 
 
 def main():
-    listeners = {name: socket.create_server(("127.0.0.1", 0)) for name in ("plain", *CERTIFICATES)}
+    listeners = {name: socket.create_server((HOST, 0)) for name in ("plain", *CERTIFICATES)}
     ports = {name: listener.getsockname()[1] for name, listener in listeners.items()}
     with socket.create_server(("127.0.0.1", 0)) as nobody:
         ports["refused"] = nobody.getsockname()[1]

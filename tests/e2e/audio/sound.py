@@ -131,7 +131,7 @@ class StreamServer:
     def __init__(self):
         script = next(path for folder in sys.path
                       if os.path.exists(path := os.path.join(folder, "stream_server.py")))
-        self._process = subprocess.Popen(["/usr/bin/python3", "-B", script, MATERIAL], stdin=subprocess.PIPE,
+        self._process = subprocess.Popen(["/usr/bin/python3", "-B", script, MATERIAL, "127.0.0.1"], stdin=subprocess.PIPE,
                                          stdout=subprocess.PIPE)
         self._pending, self._events = b"", []
         self._ports = wait_for(lambda: [event["ports"] for event in self.events if "ports" in event],
