@@ -1,48 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/session/QtApplication.h"
 
-#include "desktop/x11/X11Desktop.h"
+#include "desktop/x11/Activation.h"
 
-#include <QApplication>
+#include <QGuiApplication>
 #include <QScopedValueRollback>
-#include <QScreen>
-#include <QWidget>
-#include <qpa/qplatformnativeinterface.h>
-
-#include <cstdint>
+#include <QWindow>
 
 namespace velto {
 
-namespace {
-
-/// A window manager lets a window to the front when the user acted in its program after acting in the one
-/// that has the focus. A click on the status item and the launch itself arrive without their time, so this
-/// takes the present one.
-void noteUserAction()
-{
-    auto* screen = QGuiApplication::primaryScreen();
-    if (!x11::connection() || !screen)
-        return;
-    auto* native = QGuiApplication::platformNativeInterface();
-    using SetTime = void (*)(QScreen*, xcb_timestamp_t);
-    const auto setTime = reinterpret_cast<SetTime>(
-        reinterpret_cast<void (*)()>(native->nativeResourceFunctionForScreen("setapptime")));
-    const auto now = reinterpret_cast<std::uintptr_t>(native->nativeResourceForScreen("gettimestamp", screen));
-    if (setTime)
-        setTime(screen, static_cast<xcb_timestamp_t>(now));
-}
-
-} // namespace
-
 void QtApplication::activate()
 {
-    noteUserAction();
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (!window->isVisible() || window->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus))
-            continue;
-        window->raise();
-        window->activateWindow();
-    }
+    for (QWindow* window : QGuiApplication::topLevelWindows())
+        if (window->isVisible() && !window->flags().testFlag(Qt::WindowDoesNotAcceptFocus))
+            bringToFront(*window);
 }
 
 void QtApplication::terminate()

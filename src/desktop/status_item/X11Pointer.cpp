@@ -3,8 +3,6 @@
 
 #include <QGuiApplication>
 #include <QScreen>
-#include <QtGui/private/qhighdpiscaling_p.h>
-#include <qpa/qplatformscreen.h>
 
 #include <algorithm>
 
@@ -19,10 +17,19 @@ bool isDock(xcb_window_t window)
     return std::ranges::count(x11::property(window, type), dock) > 0;
 }
 
+/// The pixels of `area`, a part of `screen` in points. The toolkit leaves a screen's origin where it is and scales from
+/// there.
+QRect toPixels(const QRect& area, const QScreen& screen)
+{
+    const QPointF origin = screen.geometry().topLeft();
+    const double factor = screen.devicePixelRatio();
+    return QRectF(origin + (area.topLeft() - origin) * factor, QSizeF(area.size()) * factor).toRect();
+}
+
 const QScreen* screenAt(QPoint pixel)
 {
     for (const auto* screen : QGuiApplication::screens())
-        if (screen->handle()->geometry().contains(pixel))
+        if (toPixels(screen->geometry(), *screen).contains(pixel))
             return screen;
     return QGuiApplication::primaryScreen();
 }
@@ -33,8 +40,8 @@ std::optional<QRect> edgeStripAt(QPoint position)
     const auto* screen = screenAt(position);
     if (!screen)
         return std::nullopt;
-    const auto all = screen->handle()->geometry();
-    const auto usable = screen->handle()->availableGeometry();
+    const auto all = toPixels(screen->geometry(), *screen);
+    const auto usable = toPixels(screen->availableGeometry(), *screen);
     for (const auto& strip : {
              QRect(all.topLeft(), QPoint(all.right(), usable.top() - 1)),
              QRect(QPoint(all.left(), usable.bottom() + 1), all.bottomRight()),
@@ -72,10 +79,9 @@ QRectF toLogical(const QRect& pixels)
     const auto* screen = screenAt(pixels.center());
     if (!screen)
         return pixels;
-    const double factor = QHighDpiScaling::factor(screen);
-    const QPointF origin = screen->handle()->geometry().topLeft();
-    return {
-        screen->geometry().topLeft() + (QPointF(pixels.topLeft()) - origin) / factor, QSizeF(pixels.size()) / factor};
+    const double factor = screen->devicePixelRatio();
+    const QPointF origin = screen->geometry().topLeft();
+    return {origin + (pixels.topLeft() - origin) / factor, QSizeF(pixels.size()) / factor};
 }
 
 } // namespace velto

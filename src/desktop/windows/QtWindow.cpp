@@ -2,6 +2,7 @@
 #include "desktop/windows/QtWindow.h"
 
 #include "desktop/windows/FlippedGeometry.h"
+#include "desktop/x11/Activation.h"
 #include "desktop/x11/X11Desktop.h"
 #include "platform/Screens.h"
 
@@ -10,6 +11,7 @@
 #include <QGuiApplication>
 #include <QIcon>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <string_view>
 
@@ -73,8 +75,7 @@ void QtWindow::makeKeyAndOrderFront()
             hideTitle(*m_dialog);
     }
     m_dialog->show();
-    m_dialog->raise();
-    m_dialog->activateWindow();
+    bringToFront(*m_dialog->windowHandle());
 }
 
 bool QtWindow::eventFilter(QObject* watched, QEvent* event)

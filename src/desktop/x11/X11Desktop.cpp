@@ -6,7 +6,11 @@
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
+#include <span>
 #include <string>
+
+#include <X11/Xlib.h>
+#include <X11/extensions/sync.h>
 
 namespace velto::x11 {
 
@@ -20,6 +24,29 @@ template <class Reply>
 std::unique_ptr<Reply, Free> owned(Reply* reply)
 {
     return std::unique_ptr<Reply, Free>{reply};
+}
+
+Display* display()
+{
+    return qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->display();
+}
+
+/// What the clock of the X server shows; CurrentTime when it does not tell. From Xlib, since libxcb reads the counters'
+/// names two bytes off.
+xcb_timestamp_t serverTime()
+{
+    int count = 0;
+    int ignored = 0;
+    if (!XSyncQueryExtension(display(), &ignored, &ignored) || !XSyncInitialize(display(), &ignored, &ignored))
+        return CurrentTime;
+    const std::unique_ptr<XSyncSystemCounter[], decltype(&XSyncFreeSystemCounterList)> counters(
+        XSyncListSystemCounters(display(), &count), XSyncFreeSystemCounterList);
+    const std::span all(counters.get(), static_cast<std::size_t>(count));
+    const auto clock = std::ranges::find(all, std::string_view("SERVERTIME"), &XSyncSystemCounter::name);
+    XSyncValue time{};
+    if (clock == all.end() || !XSyncQueryCounter(display(), clock->counter, &time))
+        return CurrentTime;
+    return XSyncValueLow32(time);
 }
 
 } // namespace
@@ -101,6 +128,16 @@ void focus(xcb_window_t window)
     } else {
         xcb_set_input_focus(connection(), XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
         xcb_flush(connection());
+    }
+}
+
+void activate(xcb_window_t window)
+{
+    if (hasWindowManager()) {
+        constexpr std::uint32_t asApplication = 1;
+        request(window, "_NET_ACTIVE_WINDOW", {asApplication, serverTime()});
+    } else {
+        focus(window);
     }
 }
 

@@ -34,6 +34,10 @@ void setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t type, const st
 [[nodiscard]] xcb_window_t focusedWindow();
 /// Asks for `window` to get the keys, whatever has them.
 void focus(xcb_window_t window);
+/// Asks for `window`, one of this program, to get the keys because the user wants it now. A window manager grants that
+/// when the user acted in this program after acting in the one that has them; a click on the status item and the
+/// launch itself arrive without their time, so this takes the present one.
+void activate(xcb_window_t window);
 /// Asks the window manager, by the message of that name, to do something with a window that it manages.
 void request(xcb_window_t window, std::string_view message, const std::array<std::uint32_t, 5>& items);
 
