@@ -18,7 +18,7 @@ volatile std::sig_atomic_t writeEnd = -1;
 void tell(int /*signal*/)
 {
     const int error = errno;
-    static_cast<void>(::write(writeEnd, "", 1));
+    [[maybe_unused]] const auto written = ::write(writeEnd, "", 1);
     errno = error;
 }
 
@@ -26,7 +26,7 @@ void tell(int /*signal*/)
 int makePipe()
 {
     std::array<int, 2> pipe{-1, -1};
-    static_cast<void>(::pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK));
+    [[maybe_unused]] const int failure = ::pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK);
     writeEnd = pipe[1];
     return pipe[0];
 }
