@@ -47,13 +47,17 @@ public:
         m_changed.notify_all();
     }
 
-    /// False when it is still at it after `limit`.
+    /// Tries once more what could not be written. False when it is still at it after `limit`.
     bool finish(std::chrono::milliseconds limit)
     {
+        const auto end = std::chrono::steady_clock::now() + limit;
+        const auto isIdle = [this] { return !m_isAsked && !m_isBusy; };
         std::unique_lock lock(m_mutex);
-        m_isAsked = m_isAsked || !m_unwritten.empty();
+        if (!m_changed.wait_until(lock, end, isIdle))
+            return false;
+        m_isAsked = !m_unwritten.empty();
         m_changed.notify_all();
-        return m_changed.wait_for(lock, limit, [this] { return !m_isAsked && !m_isBusy; });
+        return m_changed.wait_until(lock, end, isIdle);
     }
 
     void end()
