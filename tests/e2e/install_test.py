@@ -1,7 +1,10 @@
 # SPDX-License-Identifier: MIT
 """What cmake --install puts somewhere is the whole program."""
+import json
 import os
+import platform
 import re
+import struct
 import subprocess
 import tempfile
 import unittest
@@ -15,23 +18,38 @@ ID = "org.velto.Velto"
 
 
 def setUpModule():
-    global prefix
+    global prefix, build
     prefix = unittest.enterModuleContext(tempfile.TemporaryDirectory(prefix="velto-installed-"))
     build = os.environ.get("VELTO_BUILD", os.path.join(ROOT, "build/release"))
-    subprocess.run(["cmake", "--install", build, "--prefix", prefix], check=True, stdout=subprocess.DEVNULL)
+    install(prefix)
+
+
+def install(folder):
+    subprocess.run(["cmake", "--install", build, "--prefix", folder], check=True, stdout=subprocess.DEVNULL)
+
+
+def output(*command):
+    return subprocess.run(command, check=True, stdout=subprocess.PIPE, text=True).stdout
+
+
+def tree(folder):
+    return sorted(os.path.relpath(os.path.join(where, name), folder)
+                  for where, folders, files in os.walk(folder) for name in folders + files)
 
 
 class TheInstalledTree(unittest.TestCase):
     def test_it_holds_the_program_and_what_a_desktop_asks_for(self):
         for name in ("bin/velto", "libexec/velto-stream", f"share/applications/{ID}.desktop",
-                     f"share/metainfo/{ID}.metainfo.xml", f"share/icons/hicolor/scalable/apps/{ID}.svg", f"share/icons/hicolor/48x48/apps/{ID}.png",
+                     f"share/metainfo/{ID}.metainfo.xml", "share/man/man1/velto.1",
+                     f"share/icons/hicolor/scalable/apps/{ID}.svg", f"share/icons/hicolor/48x48/apps/{ID}.png",
                      f"share/icons/hicolor/symbolic/apps/{ID}-symbolic.svg"):
             with self.subTest(name):
                 self.assertTrue(os.path.isfile(os.path.join(prefix, name)), os.listdir(prefix))
 
     def test_its_descriptions_are_valid(self):
         for command in (["desktop-file-validate", f"{prefix}/share/applications/{ID}.desktop"],
-                        ["appstreamcli", "validate", "--no-net", f"{prefix}/share/metainfo/{ID}.metainfo.xml"]):
+                        ["appstreamcli", "validate", "--strict", "--pedantic", "--no-net",
+                         f"{prefix}/share/metainfo/{ID}.metainfo.xml"]):
             with self.subTest(command[0]):
                 result = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
                 self.assertEqual(result.returncode, 0, result.stdout.decode())
@@ -44,12 +62,87 @@ class TheInstalledTree(unittest.TestCase):
 
         self.assertEqual(release.get("version"), version)
 
+    def test_each_screenshot_it_names_is_there_in_the_size_that_it_tells(self):
+        images = xml.etree.ElementTree.parse(f"{prefix}/share/metainfo/{ID}.metainfo.xml").findall(".//image")
+
+        self.assertGreater(len(images), 2)
+        for image in images:
+            file = os.path.join(ROOT, "docs/screenshots", os.path.basename(image.text))
+            with open(file, "rb") as picture, self.subTest(image.text):
+                width, height = struct.unpack(">II", picture.read(24)[16:])
+                self.assertEqual((image.get("width"), image.get("height")), (str(width), str(height)))
+
+    def test_its_manual_page_is_well_formed(self):
+        result = subprocess.run(["man", "--warnings", "-l", f"{prefix}/share/man/man1/velto.1"], text=True, check=True,
+                                stdout=subprocess.PIPE, stderr=subprocess.PIPE, env={**os.environ, "MANWIDTH": "80"})
+
+        self.assertIn("focus timer", result.stdout)
+        self.assertEqual(result.stderr, "")
+
     def test_it_runs_from_where_it_stands(self):
         with VirtualDesktop() as desktop, mock.patch.dict(os.environ, VELTO_BIN=f"{prefix}/bin/velto"):
             velto = desktop.start_velto({})
 
             wait_for(lambda: velto.time == "25:00")
             self.assertEqual(os.readlink(f"/proc/{velto.pid}/exe"), f"{prefix}/bin/velto")
+
+
+class TheInstalledPrograms(unittest.TestCase):
+    """Whatever the compiler of a machine does by itself, these are asked for."""
+
+    def each(self):
+        for name in ("bin/velto", "libexec/velto-stream"):
+            with self.subTest(name):
+                yield os.path.join(prefix, name)
+
+    def test_they_stand_anywhere_in_memory(self):
+        for program in self.each():
+            self.assertRegex(output("readelf", "--dynamic", program), r"FLAGS_1.*\bPIE\b")
+
+    def test_what_they_are_linked_to_cannot_be_redirected(self):
+        for program in self.each():
+            self.assertIn("GNU_RELRO", output("readelf", "--segments", program))
+            self.assertRegex(output("readelf", "--dynamic", program), r"FLAGS_1.*\bNOW\b")
+
+    def test_their_stack_holds_no_code(self):
+        for program in self.each():
+            self.assertRegex(output("readelf", "--segments", "--wide", program), r"GNU_STACK.* RW +0x")
+
+    def test_a_stack_that_was_written_over_ends_them(self):
+        for program in self.each():
+            self.assertIn("__stack_chk_fail", output("readelf", "--dyn-syms", "--wide", program))
+
+    @unittest.skipUnless(platform.machine() == "x86_64", "a protection of another processor")
+    def test_calls_and_jumps_end_where_they_may(self):
+        for program in self.each():
+            code = output("objdump", "--disassemble", "--no-show-raw-insn", program)
+            self.assertRegex(code, r"<main>:\n[^\n]*\bendbr64")
+
+    def test_every_source_was_compiled_with_what_leaves_no_trace(self):
+        with open(os.path.join(build, "CMakeCache.txt"), encoding="utf-8") as file:
+            optimised = "CMAKE_BUILD_TYPE:STRING=Release" in file.read()
+        with open(os.path.join(build, "compile_commands.json"), encoding="utf-8") as file:
+            commands = [entry["command"] for entry in json.load(file)]
+
+        self.assertTrue(commands)
+        for flag in ["-fstack-clash-protection"] + ["-D_FORTIFY_SOURCE=3"] * optimised:
+            self.assertEqual([command for command in commands if flag not in command], [])
+
+
+class Uninstalling(unittest.TestCase):
+    def test_nothing_is_left_and_nothing_else_is_gone(self):
+        folder = self.enterContext(tempfile.TemporaryDirectory(prefix="velto-uninstalled-"))
+        os.makedirs(os.path.join(folder, "bin"))
+        os.makedirs(os.path.join(folder, "share/applications"))
+        with open(os.path.join(folder, "share/applications/other.desktop"), "w", encoding="utf-8"):
+            pass
+        before = tree(folder)
+        install(folder)
+        self.assertIn("bin/velto", tree(folder))
+
+        subprocess.run(["cmake", "--build", build, "--target", "uninstall"], check=True, stdout=subprocess.DEVNULL)
+
+        self.assertEqual(tree(folder), before)
 
 
 if __name__ == "__main__":
