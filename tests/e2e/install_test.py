@@ -90,31 +90,29 @@ class TheInstalledTree(unittest.TestCase):
 class TheInstalledPrograms(unittest.TestCase):
     """Whatever the compiler of a machine does by itself, these are asked for."""
 
-    def each(self):
-        for name in ("bin/velto", "libexec/velto-stream"):
-            with self.subTest(name):
-                yield os.path.join(prefix, name)
+    def setUp(self):
+        self.programs = [os.path.join(prefix, name) for name in ("bin/velto", "libexec/velto-stream")]
 
     def test_they_stand_anywhere_in_memory(self):
-        for program in self.each():
+        for program in self.programs:
             self.assertRegex(output("readelf", "--dynamic", program), r"FLAGS_1.*\bPIE\b")
 
     def test_what_they_are_linked_to_cannot_be_redirected(self):
-        for program in self.each():
+        for program in self.programs:
             self.assertIn("GNU_RELRO", output("readelf", "--segments", program))
             self.assertRegex(output("readelf", "--dynamic", program), r"FLAGS_1.*\bNOW\b")
 
     def test_their_stack_holds_no_code(self):
-        for program in self.each():
+        for program in self.programs:
             self.assertRegex(output("readelf", "--segments", "--wide", program), r"GNU_STACK.* RW +0x")
 
     def test_a_stack_that_was_written_over_ends_them(self):
-        for program in self.each():
+        for program in self.programs:
             self.assertIn("__stack_chk_fail", output("readelf", "--dyn-syms", "--wide", program))
 
     @unittest.skipUnless(platform.machine() == "x86_64", "a protection of another processor")
     def test_calls_and_jumps_end_where_they_may(self):
-        for program in self.each():
+        for program in self.programs:
             code = output("objdump", "--disassemble", "--no-show-raw-insn", program)
             self.assertRegex(code, r"<main>:\n[^\n]*\bendbr64")
 
