@@ -47,9 +47,10 @@ class TheInstalledTree(unittest.TestCase):
                 self.assertTrue(os.path.isfile(os.path.join(prefix, name)), os.listdir(prefix))
 
     def test_its_descriptions_are_valid(self):
+        # AppStream 0.16 does not know <developer>, and says so; 1.0 wants it.
         for command in (["desktop-file-validate", f"{prefix}/share/applications/{ID}.desktop"],
                         ["appstreamcli", "validate", "--strict", "--pedantic", "--no-net",
-                         f"{prefix}/share/metainfo/{ID}.metainfo.xml"]):
+                         "--override=unknown-tag=pedantic", f"{prefix}/share/metainfo/{ID}.metainfo.xml"]):
             with self.subTest(command[0]):
                 result = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
                 self.assertEqual(result.returncode, 0, result.stdout.decode())
