@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/Platform.h"
 #include "app/VeltoApp.h"
+#include "desktop/bus/SessionBus.h"
 #include "desktop/session/Appearance.h"
 #include "desktop/session/BackgroundOutput.h"
 #include "desktop/session/BuildBundle.h"
@@ -54,7 +55,8 @@ void setWindowClass(const QString& windowClass)
 
 int run(QApplication& application)
 {
-    SingleInstance instance([] { NotificationCenter::defaultCenter().post(statusBarShowTimer); });
+    SessionBus bus(QStringLiteral("velto"));
+    SingleInstance instance(bus, [] { NotificationCenter::defaultCenter().post(statusBarShowTimer); });
     if (const auto status = instance.claim())
         return *status;
 
@@ -97,9 +99,11 @@ int run(QApplication& application)
         .makeStatusItem =
             [&] {
                 return std::make_unique<DesktopStatusItem>(
-                    clickGesture, [&](ClickEvent click, const std::function<void()>& action) {
+                    clickGesture,
+                    [&](ClickEvent click, const std::function<void()>& action) {
                         desktopApplication.dispatch(click, action);
-                    });
+                    },
+                    bus);
             },
         .makePanel =
             [&](PomodoroTimer& timer, AppSettings& settings, Size size) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/session/SingleInstance.h"
 
+#include "desktop/bus/SessionBus.h"
+
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusError>
@@ -31,18 +33,26 @@ void sayWhatIsInTheWay(uint process, bool isStranger)
 
 } // namespace
 
-SingleInstance::SingleInstance(std::function<void()> activated) : m_activated(std::move(activated)) { }
+SingleInstance::SingleInstance(SessionBus& bus, std::function<void()> activated) :
+    m_bus(bus),
+    m_activated(std::move(activated))
+{
+    connect(&m_bus, &SessionBus::found, this, [this] {
+        m_bus.connection().registerObject(objectPath, this, QDBusConnection::ExportAllSlots);
+        m_bus.connection().interface()->registerService(serviceName);
+    });
+}
 
 SingleInstance::~SingleInstance()
 {
-    auto bus = QDBusConnection::sessionBus();
+    auto bus = m_bus.connection();
     bus.unregisterService(serviceName);
     bus.unregisterObject(objectPath);
 }
 
 std::optional<int> SingleInstance::claim()
 {
-    auto bus = QDBusConnection::sessionBus();
+    auto bus = m_bus.connection();
     if (!bus.isConnected())
         return std::nullopt;
 

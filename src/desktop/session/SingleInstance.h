@@ -9,6 +9,8 @@
 
 namespace velto {
 
+class SessionBus;
+
 /// Keeps the program to one instance a session, by owning its name on the session bus.
 ///
 /// Other launches, of the desktop entry too, reach the owner as org.freedesktop.Application calls.
@@ -18,7 +20,8 @@ class SingleInstance final : public QObject {
 
 public:
     /// `activated` runs for every later launch, from the event loop.
-    explicit SingleInstance(std::function<void()> activated);
+    /// `bus` must outlive this; the name is taken again when the bus is there again.
+    SingleInstance(SessionBus& bus, std::function<void()> activated);
     ~SingleInstance() override;
 
     /// Absent when this process is the one to run, which it also is without a session bus. Else it should leave with
@@ -32,6 +35,7 @@ public slots:
     void ActivateAction(const QString& name, const QVariantList& parameter, const QVariantMap& platformData);
 
 private:
+    SessionBus& m_bus;
     std::function<void()> m_activated;
 };
 

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/status_item/DesktopStatusItem.h"
 
+#include "desktop/bus/SessionBus.h"
+#include "desktop/menus/DBusMenu.h"
 #include "desktop/status_item/ClickGesture.h"
 #include "desktop/status_item/StatusAnchor.h"
+#include "desktop/status_item/StatusHostMonitor.h"
+#include "desktop/status_item/StatusNotifierItem.h"
 #include "desktop/status_item/StatusPicture.h"
 #include "desktop/status_item/StripWindow.h"
 #include "desktop/status_item/X11Pointer.h"
@@ -43,41 +47,76 @@ bool desktopIsDark()
 
 } // namespace
 
-DesktopStatusItem::DesktopStatusItem(ClickGesture& gesture, Dispatcher dispatch, QDBusConnection bus) :
+/// The program's presence in the panel bar, for one connection to the bus.
+struct DesktopStatusItem::OnBus {
+    OnBus(const QDBusConnection& bus, StatusNotifierItem::ClickHandler onClick, DBusMenu::Handlers handlers) :
+        hosts(bus),
+        item(bus, std::move(onClick)),
+        menu(bus, std::move(handlers))
+    {
+        connect(&hosts, &StatusHostMonitor::watcherAppeared, &item, &StatusNotifierItem::registerWithWatcher);
+    }
+
+    StatusHostMonitor hosts;
+    StatusNotifierItem item;
+    DBusMenu menu;
+};
+
+DesktopStatusItem::DesktopStatusItem(ClickGesture& gesture, Dispatcher dispatch, SessionBus& bus) :
     m_gesture(gesture),
     m_dispatch(std::move(dispatch)),
-    m_bus(std::move(bus)),
-    m_hosts(m_bus),
-    m_item(m_bus, [this](ClickEvent::Kind kind, QPoint claimed) { clickedInBar(kind, claimed); }),
-    m_exportedMenu(m_bus,
-        {[this] { m_gesture.menuRequested(); }, [this] { m_gesture.menuOpened(); },
-            [this] { m_gesture.menuClosed(); }}),
+    m_bus(bus),
     m_popUpMenu({[this] { m_gesture.menuOpened(); }, [this] { m_gesture.menuClosed(); }})
 {
     m_stripDelay.setSingleShot(true);
     m_stripDelay.setInterval(patienceForHost);
     connect(&m_stripDelay, &QTimer::timeout, this, &DesktopStatusItem::showStrip);
-    connect(&m_hosts, &StatusHostMonitor::watcherMissing, this, &DesktopStatusItem::showStrip);
-    connect(&m_hosts, &StatusHostMonitor::watcherAppeared, this, [this] { m_item.registerWithWatcher(); });
-    connect(&m_hosts, &StatusHostMonitor::hostChanged, this, &DesktopStatusItem::hostChanged);
+    connect(&m_bus, &SessionBus::found, this, &DesktopStatusItem::enterBus);
+    connect(&m_bus, &SessionBus::lost, this, &DesktopStatusItem::leaveBus);
     qApp->installEventFilter(this);
+    if (m_bus.connection().isConnected())
+        enterBus();
     m_stripDelay.start();
 }
 
-DesktopStatusItem::~DesktopStatusItem()
+DesktopStatusItem::~DesktopStatusItem() = default;
+
+void DesktopStatusItem::enterBus()
 {
-    QDBusConnection::disconnectFromBus(m_bus.name());
+    m_onBus = std::make_unique<OnBus>(
+        m_bus.connection(), [this](ClickEvent::Kind kind, QPoint claimed) { clickedInBar(kind, claimed); },
+        DBusMenu::Handlers{[this] { m_gesture.menuRequested(); }, [this] { m_gesture.menuOpened(); },
+            [this] { m_gesture.menuClosed(); }});
+    connect(&m_onBus->hosts, &StatusHostMonitor::watcherMissing, this, &DesktopStatusItem::showStrip);
+    connect(&m_onBus->hosts, &StatusHostMonitor::hostChanged, this, &DesktopStatusItem::hostChanged);
+    m_onBus->item.setToolTip(m_toolTip);
+    m_onBus->item.setLabel(m_title, false);
+    m_onBus->menu.setMenu(m_menu);
+}
+
+void DesktopStatusItem::leaveBus()
+{
+    m_onBus.reset();
+    showStrip();
+}
+
+bool DesktopStatusItem::hasHost() const
+{
+    return m_onBus && m_onBus->hosts.host();
 }
 
 void DesktopStatusItem::setMenu(std::shared_ptr<Menu> menu)
 {
-    m_exportedMenu.setMenu(menu);
-    m_popUpMenu.setMenu(std::move(menu));
+    m_menu = std::move(menu);
+    if (m_onBus)
+        m_onBus->menu.setMenu(m_menu);
+    m_popUpMenu.setMenu(m_menu);
 }
 
 void DesktopStatusItem::menuDidChange()
 {
-    m_exportedMenu.menuDidChange();
+    if (m_onBus)
+        m_onBus->menu.menuDidChange();
     m_popUpMenu.menuDidChange();
 }
 
@@ -108,7 +147,8 @@ void DesktopStatusItem::setFont(double points, FontWeight weight)
 void DesktopStatusItem::setToolTip(const std::string& text)
 {
     m_toolTip = QString::fromStdString(text);
-    m_item.setToolTip(m_toolTip);
+    if (m_onBus)
+        m_onBus->item.setToolTip(m_toolTip);
     if (m_strip)
         m_strip->setToolTip(m_toolTip);
 }
@@ -119,7 +159,8 @@ void DesktopStatusItem::setTitle(const std::string& title)
     if (text == m_title)
         return;
     m_title = std::move(text);
-    m_item.setLabel(m_title, m_traits.shape == TimeShape::label);
+    if (m_onBus)
+        m_onBus->item.setLabel(m_title, m_traits.shape == TimeShape::label);
     if (m_strip)
         m_strip->setText(m_title);
     drawPicture();
@@ -149,7 +190,7 @@ std::optional<Rect> DesktopStatusItem::frame() const
 
 void DesktopStatusItem::hostChanged()
 {
-    if (!m_hosts.host()) {
+    if (!hasHost()) {
         m_stripDelay.start();
         return;
     }
@@ -158,14 +199,16 @@ void DesktopStatusItem::hostChanged()
         m_strip.reset();
         m_lastAnchor.reset();
     }
-    m_traits = recognizeStatusHost(*m_hosts.host());
-    m_exportedMenu.setLeadingItem(m_traits.leftClickOpensMenu ? panelItem() : nullptr);
+    m_traits = recognizeStatusHost(*m_onBus->hosts.host());
+    m_onBus->menu.setLeadingItem(m_traits.leftClickOpensMenu ? panelItem() : nullptr);
     drawPicture();
 }
 
 void DesktopStatusItem::showStrip()
 {
     m_stripDelay.stop();
+    if (m_strip)
+        return;
     m_strip = std::make_unique<StripWindow>([this](ClickEvent::Kind kind, bool control) { clicked({kind, control}); });
     m_strip->setTextFont(m_font);
     m_strip->setToolTip(m_toolTip);
@@ -176,18 +219,18 @@ void DesktopStatusItem::showStrip()
 
 void DesktopStatusItem::drawPicture()
 {
-    if (!m_hosts.host() || m_title.isEmpty())
+    if (!hasHost() || m_title.isEmpty())
         return;
     const auto ink = statusPictureInk(m_traits.barIsAlwaysDark || desktopIsDark(), m_appearsDisabled);
     switch (m_traits.shape) {
     case TimeShape::label:
-        m_item.setPicture(timerStatusPicture(squareSide, ink));
+        m_onBus->item.setPicture(timerStatusPicture(squareSide, ink));
         break;
     case TimeShape::widePicture:
-        m_item.setPicture(wideStatusPicture(m_title, m_font, wideHeight, ink));
+        m_onBus->item.setPicture(wideStatusPicture(m_title, m_font, wideHeight, ink));
         break;
     case TimeShape::squarePicture:
-        m_item.setPicture(squareStatusPicture(m_title, m_font, squareSide, ink));
+        m_onBus->item.setPicture(squareStatusPicture(m_title, m_font, squareSide, ink));
         break;
     }
 }

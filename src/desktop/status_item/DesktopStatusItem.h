@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/menus/DBusMenu.h"
 #include "desktop/menus/PopUpMenu.h"
-#include "desktop/status_item/StatusHostMonitor.h"
-#include "desktop/status_item/StatusNotifierItem.h"
+#include "desktop/status_item/StatusHost.h"
+#include "platform/Application.h"
 #include "platform/StatusItem.h"
 
-#include <QDBusConnection>
 #include <QFont>
 #include <QObject>
 #include <QTimer>
@@ -19,13 +17,14 @@
 namespace velto {
 
 class ClickGesture;
+class SessionBus;
 class StripWindow;
 
 /// The program's status item on whatever this desktop has: an entry in its panel bar, in the form that
 /// the bar can show, or else a small window.
 ///
 /// The window comes at the start when nobody takes items in, and otherwise when there has been no host for two
-/// seconds. It goes when there is one. Silent and
+/// seconds, or when the bus has gone. It goes when there is one. Silent and
 /// idle while nothing changes. Main thread only.
 class DesktopStatusItem final : public QObject, public StatusItem, private StatusItemButton {
     Q_OBJECT
@@ -34,10 +33,8 @@ public:
     /// Runs the given work with the click as the application's current event.
     using Dispatcher = std::function<void(ClickEvent, const std::function<void()>&)>;
 
-    /// `gesture` must outlive this. `bus` is used by this item alone.
-    DesktopStatusItem(ClickGesture& gesture, Dispatcher dispatch,
-        QDBusConnection bus
-        = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("status item")));
+    /// `gesture` and `bus` must outlive this.
+    DesktopStatusItem(ClickGesture& gesture, Dispatcher dispatch, SessionBus& bus);
     ~DesktopStatusItem() override;
 
     [[nodiscard]] StatusItemButton* button() override { return this; }
@@ -49,6 +46,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    struct OnBus;
+
     void setFont(double points, FontWeight weight) override;
     void setToolTip(const std::string& text) override;
     void setTitle(const std::string& title) override;
@@ -56,6 +55,9 @@ private:
     void setAction(std::function<void()> action) override;
     [[nodiscard]] std::optional<Rect> frame() const override;
 
+    void enterBus();
+    void leaveBus();
+    [[nodiscard]] bool hasHost() const;
     void hostChanged();
     void showStrip();
     void drawPicture();
@@ -67,10 +69,9 @@ private:
     ClickGesture& m_gesture;
     Dispatcher m_dispatch;
     std::function<void()> m_action;
-    QDBusConnection m_bus;
-    StatusHostMonitor m_hosts;
-    StatusNotifierItem m_item;
-    DBusMenu m_exportedMenu;
+    SessionBus& m_bus;
+    std::unique_ptr<OnBus> m_onBus; ///< Null while there is no bus.
+    std::shared_ptr<Menu> m_menu;
     PopUpMenu m_popUpMenu;
     std::unique_ptr<StripWindow> m_strip; ///< Null unless it is on show.
     QTimer m_stripDelay;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A program of which only one runs: says "running" and then "activated" for every other launch.
+#include "desktop/bus/SessionBus.h"
 #include "desktop/session/SingleInstance.h"
 
 #include <QCoreApplication>
@@ -9,7 +10,8 @@
 int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
-    velto::SingleInstance instance{[] { std::cout << "activated" << std::endl; }};
+    velto::SessionBus bus{QStringLiteral("instance")};
+    velto::SingleInstance instance{bus, [] { std::cout << "activated" << std::endl; }};
     if (const auto status = instance.claim())
         return *status;
     std::cout << "running" << std::endl;

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/status_item/DesktopStatusItem.h"
 #include "FakeWatcher.h"
+#include "desktop/bus/SessionBus.h"
+#include "desktop/menus/DBusMenuTypes.h"
 #include "desktop/status_item/ClickGesture.h"
 #include "desktop/status_item/DBusPicture.h"
 #include "desktop/status_item/StripWindow.h"
+#include "fixtures/Bus.h"
 #include "fixtures/BusClient.h"
 #include "support/FakeRunLoop.h"
 
@@ -42,8 +45,8 @@ protected:
     ClickGesture gesture{runLoop};
     std::vector<ClickEvent> clicks;
     std::optional<ClickEvent> current;
-    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("composite"));
-    BusClient client{bus.baseService()};
+    std::unique_ptr<SessionBus> bus = std::make_unique<SessionBus>(QStringLiteral("composite"));
+    BusClient client{bus->connection().baseService()};
     std::shared_ptr<MenuItem> quit = std::make_shared<MenuItem>();
     std::shared_ptr<Menu> menu = std::make_shared<Menu>();
     std::unique_ptr<DesktopStatusItem> item = std::make_unique<DesktopStatusItem>(
@@ -53,7 +56,7 @@ protected:
             action();
             current.reset();
         },
-        bus);
+        *bus);
 
     DesktopStatusItemTest()
     {
@@ -77,7 +80,7 @@ TEST_F(DesktopStatusItemTest, RegistersWithEveryNewWatcher)
     for (int turn = 0; turn < 3; ++turn) {
         FakeWatcher watcher;
         ASSERT_TRUE(eventually([&] { return !watcher.items.isEmpty(); })) << turn;
-        EXPECT_EQ(watcher.items, QStringList({bus.baseService()}));
+        EXPECT_EQ(watcher.items, QStringList({bus->connection().baseService()}));
     }
 }
 
@@ -85,10 +88,10 @@ TEST_F(DesktopStatusItemTest, LeavesTheBusWhenItGoes)
 {
     FakeWatcher watcher;
     ASSERT_TRUE(eventually([&] { return !watcher.items.isEmpty(); }));
-    const auto name = bus.baseService();
+    const auto name = bus->connection().baseService();
 
     item.reset();
-    bus = QDBusConnection(QStringLiteral("none"));
+    bus.reset();
 
     EXPECT_TRUE(eventually([&] { return !client.bus().interface()->isServiceRegistered(name); }));
 }
@@ -178,6 +181,29 @@ TEST_F(DesktopStatusItemTest, WaitsAMomentForTheNextHostAndLeavesTheStripForIt)
     EXPECT_NE(shown<StripWindow>(), nullptr);
     withoutHost.setHasHost(true);
     EXPECT_TRUE(eventually([] { return shown<StripWindow>() == nullptr; }));
+}
+
+TEST_F(DesktopStatusItemTest, ComesBackWithTheBus)
+{
+    {
+        const FakeWatcher watcher;
+        ASSERT_TRUE(eventually([&] { return pictures().size() == 1; }));
+    }
+
+    Bus::current().stop();
+    ASSERT_TRUE(eventually([] { return shown<StripWindow>() != nullptr; }));
+    item->button()->setTitle("24:59");
+    QTest::qWait(1500); // longer than the first attempt to come back
+    Bus::current().start();
+
+    FakeWatcher watcher;
+    ASSERT_TRUE(eventually([&] { return !watcher.items.isEmpty(); }));
+    ASSERT_TRUE(eventually([] { return shown<StripWindow>() == nullptr; }));
+    BusClient other{bus->connection().baseService()};
+    EXPECT_EQ(other.property(path, interface, "XAyatanaLabel"), QStringLiteral("24:59"));
+    EXPECT_EQ(qdbus_cast<DBusToolTip>(other.property(path, interface, "ToolTip")).title, QStringLiteral("Velto"));
+    const auto layout = other.call("/MenuBar", "com.canonical.dbusmenu", "GetLayout", {0, -1, QStringList()});
+    EXPECT_EQ(qdbus_cast<DBusMenuLayout>(layout.arguments().value(1)).children.size(), 1);
 }
 
 TEST_F(DesktopStatusItemTest, TheStripIsNamedLikeTheTimeWithoutAnnouncingIt)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/VeltoApp.h"
+#include "desktop/bus/SessionBus.h"
 #include "desktop/menus/DBusMenuTypes.h"
 #include "desktop/status_item/ClickGesture.h"
 #include "desktop/status_item/DesktopStatusItem.h"
@@ -133,8 +134,8 @@ class ExportedMenuTest : public testing::Test {
 protected:
     FakePlatform platform;
     ClickGesture gesture{platform.runLoop};
-    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("program"));
-    BusClient client{bus.baseService()};
+    SessionBus bus{QStringLiteral("program")};
+    BusClient client{bus.connection().baseService()};
     std::unique_ptr<VeltoApp> app;
 
     void launch()
