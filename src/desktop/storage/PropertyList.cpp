@@ -220,7 +220,10 @@ std::optional<StoredValue> PropertyList::value(std::string_view key) const
     case PLIST_STRING: {
         std::uint64_t length = 0;
         const char* text = plist_get_string_ptr(node, &length);
-        return std::string{text, static_cast<std::size_t>(length)};
+        std::string value{text, static_cast<std::size_t>(length)};
+        if (value.find('\0') != std::string::npos)
+            return std::nullopt;
+        return value;
     }
     case PLIST_DATA: {
         std::uint64_t length = 0;

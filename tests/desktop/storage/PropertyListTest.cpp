@@ -108,6 +108,7 @@ TEST(PropertyListTest, WhatIsNoStoredValueIsAbsent)
     for (const char* element : {"<date>2020-01-02T03:04:05Z</date>", "<array><true/></array>", "<dict/>",
              "<integer>18446744073709551615</integer>", "<integer>9223372036854775808</integer>", "<real>1e300</real>"})
         EXPECT_EQ(valueIn(element), std::nullopt) << element;
+    EXPECT_EQ(valueIn(std::string{"<string>a\0b</string>", 20}), std::nullopt);
     EXPECT_EQ(PropertyList{}.value("it"), std::nullopt);
 }
 
