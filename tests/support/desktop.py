@@ -25,6 +25,7 @@ from gi.repository import Gio, GLib
 import accessibility
 import framebuffer
 from hosts import HOSTS
+from machine import Hindrance
 from status_item import StatusItem
 from waiting import holds, wait_for  # noqa: F401
 
@@ -253,8 +254,9 @@ class VirtualDesktop:
     def _start_x_server(self):
         reader, writer = os.pipe()
         width, height = self.size
-        self.run("Xvfb", "-displayfd", str(writer), "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp",
-                 "-noreset", "-dpi", "96", "-fbdir", self.path("screen"), pass_fds=(writer,))
+        self._x_server = self.run(
+            "Xvfb", "-displayfd", str(writer), "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp", "-noreset",
+            "-dpi", "96", "-fbdir", self.path("screen"), pass_fds=(writer,))
         os.close(writer)
         with os.fdopen(reader) as file:
             if not select.select([file], [], [], 60)[0]:
@@ -269,12 +271,12 @@ class VirtualDesktop:
     def _start_bus(self):
         address = f"unix:path={self.path('runtime/bus')}"
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
-        self.run("dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address={address}")
+        self._bus_daemon = self.run("dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address={address}")
         self.bus = wait_for(lambda: self.connect(address), what="a session bus")
-        self.run("dbus-monitor", "--session",
-                 "type='method_call',interface='org.kde.StatusNotifierItem',member='Activate'",
-                 "type='signal',interface='org.kde.StatusNotifierItem',member='XAyatanaNewLabel'",
-                 output=self.path("overheard"))
+        self._listener = self.run(
+            "dbus-monitor", "--session", "type='method_call',interface='org.kde.StatusNotifierItem',member='Activate'",
+            "type='signal',interface='org.kde.StatusNotifierItem',member='XAyatanaNewLabel'",
+            output=self.path("overheard"))
         self.run(next(path for path in _ATSPI if os.path.exists(path)), "--launch-immediately")
         self._accessibility = wait_for(lambda: self.connect(self.bus.call_sync(
             "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, Gio.DBusCallFlags.NONE, 10000,
@@ -417,6 +419,10 @@ class VirtualDesktop:
     @property
     def announced_labels(self):
         return [label for _, _, label in self.announcements]
+
+    def hindrance(self, *processes):
+        """How much a busy machine holds up `processes` and what tells of them: the X server, the bus, its listener."""
+        return Hindrance([self._x_server, self._bus_daemon, self._listener, *processes])
 
     def move(self, x, y):
         self.ask("xdotool", "mousemove", str(x), str(y))

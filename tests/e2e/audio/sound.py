@@ -35,18 +35,18 @@ class SoundServer:
         self.start()
 
     def start(self):
-        self._process = self._desktop.run(
+        self.process = self._desktop.run(
             "pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=-1", "--realtime=no",
             "--high-priority=no", "--disable-shm=yes", "--log-target=stderr", "-L",
             f"module-null-sink sink_name=void rate={RATE}", "-L", "module-native-protocol-unix auth-anonymous=1")
         wait_for(lambda: "void" in self.list("sinks"), what="a sound server")
 
     def kill(self):
-        self._process.kill()
-        self._process.wait()
+        self.process.kill()
+        self.process.wait()
 
     def freeze(self):
-        self._process.send_signal(signal.SIGSTOP)
+        self.process.send_signal(signal.SIGSTOP)
 
     def list(self, what):
         try:

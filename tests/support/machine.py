@@ -1,0 +1,47 @@
+# SPDX-License-Identifier: MIT
+"""What a busy machine does to the times that a story measures."""
+import glob
+import os
+import threading
+
+
+def time_queued(pids):
+    """For how long, in seconds, the threads of these processes were ready to go on but had no processor."""
+    nanoseconds = 0
+    for pid in pids:
+        for path in glob.glob(f"/proc/{pid}/task/*/schedstat"):
+            try:
+                with open(path, encoding="ascii") as file:
+                    nanoseconds += int(file.read().split()[1])
+            except OSError:
+                pass  # the thread has ended
+    return nanoseconds / 1e9
+
+
+class Hindrance:
+    """For how long processes, this one among them, had to wait for a processor at the worst moment of the `with`:
+    `seconds`. By that much a limit on what they do together has to be wider; what goes beyond is their own fault."""
+
+    _moment = 0.5  # s
+
+    def __init__(self, processes):
+        self._pids = [os.getpid(), *(process.pid for process in processes)]
+        self._samples, self._end = [], threading.Event()
+        self._watch = threading.Thread(target=self._sample, daemon=True)
+
+    def __enter__(self):
+        self._watch.start()
+        return self
+
+    def __exit__(self, *_):
+        self._end.set()
+        self._watch.join()
+
+    def _sample(self):
+        while not self._end.wait(self._moment / 5):
+            self._samples.append(time_queued(self._pids))
+
+    @property
+    def seconds(self):
+        samples = list(self._samples)
+        return max((later - earlier for earlier, later in zip(samples, samples[5:])), default=0)
