@@ -86,7 +86,7 @@ TEST_F(BackgroundOutputTest, APipeThatNobodyReadsHoldsUpNothing)
 
     stream << text << std::endl;
 
-    EXPECT_LT(Clock::now() - start, 50ms);
+    EXPECT_LT(Clock::now() - start, 1s);
     EXPECT_EQ(read(text.size() + 1), text + "\n");
 }
 
