@@ -72,12 +72,7 @@ void CircularProgressView::setProgress(double progress)
         return;
     m_from = drawnProgress();
     m_progress = progress;
-
-    const double way = std::abs(std::min(m_progress, 1.0) - m_from) * std::numbers::pi * contentsRect().width();
     run(m_arcMotion);
-    // Nobody could see it move within one pixel.
-    if (way * devicePixelRatioF() < 1)
-        m_arcMotion.finish();
     redrawArc();
 }
 

@@ -521,18 +521,38 @@ TEST_F(PanelContainerViewTest, ThePhaseIsAnnouncedAndTheTicksAreNot)
 
 // Motion
 
-TEST_F(PanelContainerViewTest, TheArcGrowsEvenlyForAThirdOfASecond)
+TEST_F(PanelContainerViewTest, TheArcGrowsEvenlyForAThirdOfASecondHoweverLongThePhase)
 {
-    build(1);
-    timer->start();
-    turn();
-    runLoop.advance(1s);
-    const auto& ring = child<CircularProgressView>();
+    for (const int minutes : {1, 25, 120}) {
+        build(minutes);
+        timer->start();
+        turn();
+        for (int tick = 0; tick < 3; ++tick) {
+            runLoop.advance(1s);
+            const auto& ring = child<CircularProgressView>();
 
-    EXPECT_DOUBLE_EQ(ring.drawnProgress(), 0);
-    for (const double part : {0.2, 0.4, 0.6, 0.8, 1.0}) {
-        moveTo(static_cast<int>(part * 350));
-        EXPECT_NEAR(ring.drawnProgress(), part / 60, 1e-9);
+            EXPECT_NEAR(ring.drawnProgress() * minutes * 60, tick, 1e-6);
+            for (const double part : {0.2, 0.4, 0.6, 0.8, 1.0}) {
+                moveTo(static_cast<int>(part * 350));
+                EXPECT_NEAR(ring.drawnProgress() * minutes * 60, tick + part, 1e-6);
+            }
+            look();
+        }
+    }
+}
+
+TEST_F(PanelContainerViewTest, TheArcIsDrawnLongerOnEveryTickOfTheUsualPhase)
+{
+    build(25);
+    timer->start();
+    auto before = child<CircularProgressView>().grab().toImage();
+    for (int tick = 1; tick <= 60; ++tick) {
+        runLoop.advance(1s);
+        moveTo(Motion::usualDuration);
+
+        auto after = child<CircularProgressView>().grab().toImage();
+        EXPECT_NE(before, after) << tick;
+        before = std::move(after);
     }
 }
 
