@@ -115,7 +115,7 @@ int run(QApplication& application)
                     focus);
             },
         .makeHelpWindow = [&] { return makeHelpWindow(screens); },
-        .makeAboutWindow = [&] { return makeAboutWindow(screens, bundle, calendar, workspace); },
+        .makeAboutWindow = [&] { return makeAboutWindow(screens, bundle, calendar, workspace, runLoop); },
     };
     VeltoApp app(platform);
     app.appDelegate().applicationDidFinishLaunching();

@@ -5,6 +5,7 @@
 #include "help_about/AboutTexts.h"
 #include "help_about/ApplicationIcon.h"
 #include "platform/Calendar.h"
+#include "platform/RunLoop.h"
 #include "platform/Workspace.h"
 #include "style/Stack.h"
 #include "style/TextLabel.h"
@@ -13,13 +14,16 @@
 
 namespace velto {
 
-AboutView::AboutView(
-    QSize size, AboutDetails details, const Bundle& bundle, const Calendar& calendar, Workspace& workspace) :
+using namespace std::chrono_literals;
+
+AboutView::AboutView(QSize size, AboutDetails details, const Bundle& bundle, const Calendar& calendar,
+    Workspace& workspace, RunLoop& runLoop) :
     m_size(size),
     m_details(std::move(details)),
     m_bundle(bundle),
     m_calendar(calendar),
     m_workspace(workspace),
+    m_runLoop(runLoop),
     m_title(new TextLabel({}, TextStyle::title2, ColorName::label, QFont::Bold)),
     m_version(new TextLabel({}, TextStyle::subheadline, ColorName::secondaryLabel)),
     m_rights(new TextLabel({}, TextStyle::footnote, ColorName::tertiaryLabel))
@@ -40,10 +44,22 @@ AboutView::AboutView(
 
 void AboutView::showEvent(QShowEvent* event)
 {
+    refresh();
+    m_refreshes = m_runLoop.every(1s, [this] { refresh(); });
+    QWidget::showEvent(event);
+}
+
+void AboutView::hideEvent(QHideEvent* event)
+{
+    m_refreshes.reset();
+    QWidget::hideEvent(event);
+}
+
+void AboutView::refresh()
+{
     m_title->setText(QString::fromStdString(aboutTitle(m_bundle)));
     m_version->setText(QString::fromStdString(versionString(m_bundle)));
     m_rights->setText(QString::fromStdString(rightsLine(m_calendar.currentYear(), m_details.rightsHolder)));
-    QWidget::showEvent(event);
 }
 
 QWidget* AboutView::aboutButton(const QString& title, const std::string& url)

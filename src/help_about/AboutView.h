@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "observation/Subscription.h"
+
 #include <QWidget>
 
+#include <optional>
 #include <string>
 
 namespace velto {
 
 class Bundle;
 class Calendar;
+class RunLoop;
 class TextLabel;
 class Workspace;
 
@@ -25,15 +29,18 @@ class AboutView final : public QWidget {
     Q_OBJECT
 
 public:
-    /// `bundle`, `calendar` and `workspace` must outlive this. The texts are read whenever it is shown.
-    AboutView(QSize size, AboutDetails details, const Bundle& bundle, const Calendar& calendar, Workspace& workspace);
+    /// The references must outlive this. The texts are read when it is shown, and every second while it is.
+    AboutView(QSize size, AboutDetails details, const Bundle& bundle, const Calendar& calendar, Workspace& workspace,
+        RunLoop& runLoop);
 
     [[nodiscard]] QSize sizeHint() const override { return m_size; }
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
+    void refresh();
     [[nodiscard]] QWidget* aboutButton(const QString& title, const std::string& url);
 
     QSize m_size;
@@ -41,9 +48,11 @@ private:
     const Bundle& m_bundle;
     const Calendar& m_calendar;
     Workspace& m_workspace;
+    RunLoop& m_runLoop;
     TextLabel* m_title;
     TextLabel* m_version;
     TextLabel* m_rights;
+    std::optional<Subscription> m_refreshes;
 };
 
 } // namespace velto

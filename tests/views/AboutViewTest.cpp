@@ -6,6 +6,7 @@
 #include "style/Colors.h"
 #include "support/FakeBundle.h"
 #include "support/FakeCalendar.h"
+#include "support/FakeRunLoop.h"
 #include "support/FakeWorkspace.h"
 
 #include <gtest/gtest.h>
@@ -20,6 +21,8 @@
 namespace velto {
 
 namespace {
+
+using namespace std::chrono_literals;
 
 class AboutViewTest : public testing::Test {
 protected:
@@ -45,8 +48,9 @@ protected:
     FakeBundle bundle;
     FakeCalendar calendar;
     FakeWorkspace workspace;
+    FakeRunLoop runLoop;
     AboutView view{QSize(640, 240), {"Somebody", "mailto:a@b.example", "https://b.example", "https://b.example/coffee"},
-        bundle, calendar, workspace};
+        bundle, calendar, workspace, runLoop};
     QList<AboutButton*> buttons;
 };
 
@@ -72,6 +76,18 @@ TEST_F(AboutViewTest, ReadsItsTextsAnewWheneverItIsShown)
 
     EXPECT_TRUE(texts().contains("Egg Clock - Focus Timer"));
     EXPECT_TRUE(texts().contains("v2"));
+    EXPECT_TRUE(texts().contains("© 2026 Somebody. All rights reserved."));
+}
+
+TEST_F(AboutViewTest, TheYearFollowsTheClockWhileItIsShown)
+{
+    calendar.year = 2026;
+    runLoop.advance(1s);
+    EXPECT_TRUE(texts().contains("© 2026 Somebody. All rights reserved."));
+
+    view.hide();
+    calendar.year = 2027;
+    runLoop.advance(1s);
     EXPECT_TRUE(texts().contains("© 2026 Somebody. All rights reserved."));
 }
 
@@ -108,7 +124,7 @@ TEST_F(AboutViewTest, HoldsTheLargestText)
     auto large = usualFont;
     large.setPixelSize(20);
     QApplication::setFont(large);
-    AboutView largeView{QSize(640, 240), {}, bundle, calendar, workspace};
+    AboutView largeView{QSize(640, 240), {}, bundle, calendar, workspace, runLoop};
     QApplication::setFont(usualFont);
 
     largeView.resize(640, 240);

@@ -15,11 +15,11 @@ std::unique_ptr<Window> makeHelpWindow(const Screens& screens)
 }
 
 std::unique_ptr<Window> makeAboutWindow(
-    const Screens& screens, const Bundle& bundle, const Calendar& calendar, Workspace& workspace)
+    const Screens& screens, const Bundle& bundle, const Calendar& calendar, Workspace& workspace, RunLoop& runLoop)
 {
     const AboutDetails details{VELTO_RIGHTS_HOLDER, VELTO_SUPPORT_LINK, VELTO_WEBSITE_LINK, VELTO_DONATION_LINK};
     return std::make_unique<QtWindow>(screens, QString(), QString::fromStdString("About " + applicationName(bundle)),
-        std::make_unique<AboutView>(QSize(640, 240), details, bundle, calendar, workspace));
+        std::make_unique<AboutView>(QSize(640, 240), details, bundle, calendar, workspace, runLoop));
 }
 
 } // namespace velto

@@ -9,6 +9,7 @@ namespace velto {
 
 class Bundle;
 class Calendar;
+class RunLoop;
 class Screens;
 class Workspace;
 
@@ -16,6 +17,6 @@ class Workspace;
 
 [[nodiscard]] std::unique_ptr<Window> makeHelpWindow(const Screens& screens);
 [[nodiscard]] std::unique_ptr<Window> makeAboutWindow(
-    const Screens& screens, const Bundle& bundle, const Calendar& calendar, Workspace& workspace);
+    const Screens& screens, const Bundle& bundle, const Calendar& calendar, Workspace& workspace, RunLoop& runLoop);
 
 } // namespace velto
