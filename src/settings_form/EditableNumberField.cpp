@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings_form/EditableNumberField.h"
 
-#include <QFocusEvent>
+#include <QKeyEvent>
 
 #include <algorithm>
 
@@ -32,6 +32,14 @@ void EditableNumberField::endEditing()
 {
     m_number.endEditing();
     showText();
+}
+
+void EditableNumberField::keyPressEvent(QKeyEvent* event)
+{
+    TextField::keyPressEvent(event);
+    // Unless who was told of it has taken the focus.
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && hasFocus())
+        clearFocus();
 }
 
 void EditableNumberField::focusOutEvent(QFocusEvent* event)

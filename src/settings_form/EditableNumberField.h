@@ -7,7 +7,7 @@
 
 namespace velto {
 
-/// A small box for a whole number of 1 or more. What is typed becomes the number when editing ends.
+/// A small box for a whole number of 1 or more. What is typed becomes the number when editing ends; Return ends it.
 class EditableNumberField : public TextField {
     Q_OBJECT
 
@@ -19,6 +19,7 @@ public:
     void endEditing();
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
 private:

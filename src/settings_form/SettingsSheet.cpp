@@ -192,15 +192,15 @@ void SettingsSheet::keepPageStill()
 
 QLayout* SettingsSheet::durations()
 {
-    auto* focus = durationSlider(tr("Focus"), m_form.focusMinutes, 25, 120);
-    auto* breakTime = durationSlider(tr("Break"), m_form.breakMinutes, 5, 30);
+    auto* focus = durationSlider(tr("Focus"), m_form.focusMinutes, {25, 120});
+    auto* breakTime = durationSlider(tr("Break"), m_form.breakMinutes, {5, 30});
     return column({.spacing = 16}, focus, breakTime);
 }
 
-QWidget* SettingsSheet::durationSlider(const QString& title, Published<std::int64_t>& value, int minimum, int maximum)
+QWidget* SettingsSheet::durationSlider(const QString& title, Published<std::int64_t>& value, ClosedRange range)
 {
     auto* number = new EditableNumberField(title, value);
-    auto* slider = new Slider(minimum, maximum);
+    auto* slider = new Slider(range.lowerBound, range.upperBound);
     auto* unit = new TextLabel(tr("minutes"), TextStyle::body, ColorName::secondaryLabel);
     number->setFixedWidth(numberWidth);
     slider->setAccessibleName(title);

@@ -42,6 +42,11 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    struct ClosedRange {
+        int lowerBound;
+        int upperBound;
+    };
+
     void apply();
     void cancel();
     void refresh();
@@ -51,7 +56,7 @@ private:
     QLayout* behavior();
     QLayout* sounds();
     QLayout* music();
-    QWidget* durationSlider(const QString& title, Published<std::int64_t>& value, int minimum, int maximum);
+    QWidget* durationSlider(const QString& title, Published<std::int64_t>& value, ClosedRange range);
     QLayout* soundPicker(const QString& title, Published<SoundOption>& selection);
     QLayout* phaseMusic(
         const QString& title, Published<bool>& isOn, Published<MusicPreset>& preset, Published<std::string>& customURL);
