@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings_form/NumberText.h"
 
+#include "settings/Minutes.h"
+
 #include <algorithm>
 #include <charconv>
 #include <iterator>
@@ -54,7 +56,7 @@ void NumberText::setText(const std::u32string& text)
 
 void NumberText::endEditing()
 {
-    if (const auto number = parse(m_text); number && *number >= 1)
+    if (const auto number = parse(m_text); number && *number >= 1 && minutesFitSeconds(*number))
         m_value.set(*number);
     setText(decimal(m_value()));
 }

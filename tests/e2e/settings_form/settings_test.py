@@ -68,6 +68,16 @@ class SettingsForm(unittest.TestCase):
         self.assertEqual(self.velto.time, "10:00")
         self.settings_become(DEFAULTS | {"focusMinutes": 10})
 
+    def test_minutes_that_no_seconds_can_hold_are_not_taken(self):
+        self.start()
+        sheet = self.open()
+        sheet.type_number("Focus", 153722867280912931)
+
+        sheet.click("Apply")
+
+        self.settings_become(DEFAULTS)
+        self.assertEqual(self.velto.time, "25:00")
+
     def test_an_untouched_form_stores_all_thirteen_settings_with_their_types(self):
         self.start()
         self.assertEqual(self.velto.settings, {"hasLaunchedBefore": True})
