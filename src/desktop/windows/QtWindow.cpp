@@ -10,6 +10,9 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QPainter>
+#include <QPixmap>
+#include <QSvgRenderer>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -35,6 +38,21 @@ void hideTitle(const QWidget& window)
             noBreakSpace.size(), noBreakSpace.data());
 }
 
+/// Drawn here: how the toolkit reads such a picture by itself is a plug-in that may not be installed.
+QIcon applicationIcon()
+{
+    QSvgRenderer picture(QStringLiteral(":/icons/org.velto.Velto.svg"));
+    QIcon icon;
+    for (const int side : {16, 24, 32, 48, 64, 128}) {
+        QPixmap pixmap(side, side);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        picture.render(&painter);
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
 } // namespace
 
 QtWindow::QtWindow(const Screens& screens, const QString& title, const QString& name, std::unique_ptr<QWidget> view) :
@@ -46,7 +64,7 @@ QtWindow::QtWindow(const Screens& screens, const QString& title, const QString& 
 {
     m_dialog->setWindowTitle(title);
     m_dialog->setAccessibleName(name);
-    m_dialog->setWindowIcon(QIcon(QStringLiteral(":/icons/org.velto.Velto.svg")));
+    m_dialog->setWindowIcon(applicationIcon());
     m_dialog->setAttribute(Qt::WA_QuitOnClose, false);
     auto* layout = new QVBoxLayout(m_dialog);
     layout->setContentsMargins({});
