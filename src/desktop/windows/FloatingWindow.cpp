@@ -12,7 +12,6 @@
 #include <QPainter>
 #include <QVBoxLayout>
 #include <QWindow>
-#include <QtGui/private/qguiapplication_p.h>
 
 #include <algorithm>
 #include <utility>
@@ -254,7 +253,7 @@ void FloatingWindow::claimFocus()
 void FloatingWindow::activateWidgets()
 {
     if (QGuiApplication::focusWindow() == windowHandle())
-        QGuiApplicationPrivate::instance()->notifyActiveWindowChange(nullptr);
+        QT_IGNORE_DEPRECATIONS(QApplication::setActiveWindow(this);) // Nothing else reaches them.
 }
 
 void FloatingWindow::returnFocus()
