@@ -111,7 +111,7 @@ class XfcePanel:
         folder = desktop.path("config/xfce4/xfconf/xfce-perchannel-xml")
         os.makedirs(folder, exist_ok=True)
         with open(os.path.join(folder, "xfce4-panel.xml"), "w", encoding="utf-8") as file:
-            file.write(_XFCE.format(output="monitor-0" if desktop.monitors else "Automatic"))
+            file.write(_XFCE.format(output="Primary" if desktop.monitors else "Automatic"))
         return desktop.run("xfce4-panel", "--disable-wm-check", "--sm-client-disable")
 
     def item_rectangle(self, desktop):

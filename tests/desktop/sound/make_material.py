@@ -50,7 +50,7 @@ def main(folder):
     here = "IP:127.0.0.1,DNS:localhost"
     certificate(folder, "good", "authority", here)
     certificate(folder, "wrong-host", "authority", "DNS:elsewhere.example")
-    certificate(folder, "expired", "authority", here, days=-1)
+    certificate(folder, "expired", "authority", here, days=0)
     certificate(folder, "unknown-authority", "stranger", here)
 
 

@@ -167,9 +167,10 @@ TEST(PropertyListTest, NumbersDoNotDependOnTheLanguage)
 
 TEST(PropertyListTest, TheBinaryFormIsRead)
 {
-    plist_t root = plist_new_dict();
+    const std::string xml = document("<key>below</key><integer>-50</integer>");
+    plist_t root = nullptr;
+    plist_from_xml(xml.data(), static_cast<std::uint32_t>(xml.size()), &root);
     plist_dict_set_item(root, "minutes", plist_new_uint(50));
-    plist_dict_set_item(root, "below", plist_new_uint(static_cast<std::uint64_t>(-50)));
     plist_dict_set_item(root, "on", plist_new_bool(1));
     plist_dict_set_item(root, "volume", plist_new_real(0.5));
     plist_dict_set_item(root, "text", plist_new_string("\u00e9"));
