@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SoundServer.h"
 
-#include <QFile>
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -19,14 +18,8 @@ SoundServer::SoundServer()
 
 void SoundServer::start()
 {
-    const auto socket = m_folder.filePath("native");
-    QFile::remove(socket);
-    m_process = startProcess("pulseaudio",
-        {"-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=-1", "--realtime=no", "--high-priority=no",
-            "--disable-shm=yes", "--log-level=error", "--log-target=stderr", "-L",
-            "module-null-sink sink_name=void rate=48000", "-L",
-            "module-native-protocol-unix auth-anonymous=1 socket=" + socket});
-    ASSERT_TRUE(eventually([&] { return list("sinks").contains("void"); })) << "no sound server";
+    m_process = startProcess("/usr/bin/python3", {"-B", VELTO_SOUND_SERVER, m_folder.filePath("native")});
+    ASSERT_TRUE(eventually([&] { return ask("info").contains("Default Sink: void"); })) << "no sound server";
 }
 
 void SoundServer::kill()
@@ -49,7 +42,12 @@ void SoundServer::thaw()
 
 QString SoundServer::list(const QString& what) const
 {
-    const auto pactl = startProcess("sh", {"-c", "exec pactl list " + what + " 2>/dev/null"});
+    return ask("list " + what);
+}
+
+QString SoundServer::ask(const QString& command) const
+{
+    const auto pactl = startProcess("sh", {"-c", "LC_ALL=C exec pactl " + command + " 2>/dev/null"});
     EXPECT_TRUE(eventually([&] { return pactl->state() == QProcess::NotRunning; }));
     return QString::fromUtf8(pactl->readAllStandardOutput());
 }

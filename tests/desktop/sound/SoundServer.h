@@ -25,6 +25,8 @@ public:
     [[nodiscard]] QString list(const QString& what) const;
 
 private:
+    [[nodiscard]] QString ask(const QString& command) const;
+
     QTemporaryDir m_folder;
     std::unique_ptr<QProcess> m_process;
 };

@@ -11,9 +11,10 @@ import wave
 
 import numpy
 
+import sound_server
 from waiting import wait_for
 
-RATE = 48000
+RATE = sound_server.RATE
 BUILD = os.environ["VELTO_BUILD"]
 MATERIAL = os.path.join(BUILD, "tests/desktop/sound/material")
 TONE, TONE_AMPLITUDE = 440, 0.5
@@ -35,11 +36,9 @@ class SoundServer:
         self.start()
 
     def start(self):
-        self.process = self._desktop.run(
-            "pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=-1", "--realtime=no",
-            "--high-priority=no", "--disable-shm=yes", "--log-target=stderr", "-L",
-            f"module-null-sink sink_name=void rate={RATE}", "-L", "module-native-protocol-unix auth-anonymous=1")
-        wait_for(lambda: "void" in self.list("sinks"), what="a sound server")
+        self.process = self._desktop.run("/usr/bin/python3", "-B", sound_server.__file__,
+                                         self._desktop.path("runtime/pulse/native"))
+        wait_for(lambda: "Default Sink: void" in self._pactl("info"), what="a sound server")
 
     def kill(self):
         self.process.kill()
@@ -49,8 +48,11 @@ class SoundServer:
         self.process.send_signal(signal.SIGSTOP)
 
     def list(self, what):
+        return self._pactl("list", what)
+
+    def _pactl(self, *command):
         try:
-            return self._desktop.ask("pactl", "list", what)
+            return self._desktop.ask("pactl", *command)
         except subprocess.CalledProcessError:
             return ""
 
