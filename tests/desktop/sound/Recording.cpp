@@ -13,8 +13,10 @@ namespace velto {
 
 Recording::Recording()
 {
+    // One of the two channels, since sound servers differ in how they mix both into one.
     m_process = startProcess("parec",
-        {"--raw", "--format=s16le", "--rate=48000", "--channels=1", "--device=void.monitor", "--latency-msec=10"});
+        {"--raw", "--format=s16le", "--rate=48000", "--channels=1", "--channel-map=front-left", "--no-remix",
+            "--device=void.monitor", "--latency-msec=10"});
     QObject::connect(m_process.get(), &QProcess::readyReadStandardOutput, [this] { read(); });
     EXPECT_TRUE(eventually([this] { return m_samples.size() > sampleRate / 10; })) << "nothing is recorded";
 }
