@@ -1,112 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "core/PomodoroTimer.h"
-
-#include "observation/NotificationCenter.h"
-#include "settings/AppSettings.h"
-#include "support/ChangeLog.h"
-#include "support/FakeKeyValueStore.h"
-#include "support/FakeRunLoop.h"
-#include "support/FakeSoundLibrary.h"
-#include "support/FakeStreamPlayerFactory.h"
-
-#include <gtest/gtest.h>
+#include "TimerFixture.h"
 
 #include <csignal>
-#include <optional>
-#include <string>
-#include <vector>
 
 namespace velto {
 
 using namespace std::chrono_literals;
 
-class PomodoroTimerTest : public testing::Test {
-protected:
-    using Lines = std::vector<std::string>;
-
-    /// Made on first use, so that a test can change the settings before. The log has all it does from then on.
-    PomodoroTimer& timer()
-    {
-        if (!m_timer) {
-            m_timer.emplace(settings, runLoop, players);
-            watch();
-        }
-        return *m_timer;
-    }
-
-    void useMusic()
-    {
-        settings.enableFocusMusic.set(true);
-        settings.focusMusicPreset.set(MusicPreset::lush);
-        settings.enableBreakMusic.set(true);
-        settings.breakMusicPreset.set(MusicPreset::ambient);
-    }
-
-    void startAndTick(std::int64_t ticks)
-    {
-        timer().start();
-        runLoop.advance(std::chrono::seconds(ticks));
-        log.take();
-    }
-
-    /// From `remainingSeconds` down to the tick that ends the phase.
-    void finishPhase()
-    {
-        timer().start();
-        runLoop.advance(std::chrono::seconds(timer().remainingSeconds() + 1));
-    }
-
-    void expectReady(PomodoroPhase phase, std::int64_t remaining)
-    {
-        EXPECT_EQ(timer().phase(), phase);
-        EXPECT_EQ(timer().remainingSeconds(), remaining);
-        EXPECT_FALSE(timer().isRunning());
-        EXPECT_FALSE(timer().hasStarted());
-        EXPECT_EQ(runLoop.liveTimers(), 0U);
-    }
-
-    [[nodiscard]] Lines storedKeys() const
-    {
-        Lines keys;
-        for (const auto& write : defaults.writes)
-            keys.push_back(write.first);
-        return keys;
-    }
-
-    FakeKeyValueStore defaults;
-    FakeSoundLibrary sounds;
-    FakeRunLoop runLoop;
-    FakeStreamPlayerFactory players;
-    AppSettings settings{defaults, sounds};
-    ChangeLog log;
-
-    const std::string lush{streamUrl(MusicPreset::lush)};
-    const std::string ambient{streamUrl(MusicPreset::ambient)};
-
-    std::optional<PomodoroTimer> m_timer;
-
-private:
-    void watch()
-    {
-        log.observe("remainingSeconds", m_timer->remainingSeconds);
-        log.observe("isRunning", m_timer->isRunning);
-        log.observe("hasStarted", m_timer->hasStarted);
-        log.observe("phase", m_timer->phase);
-        log.observe("autoTransition", m_timer->autoTransition);
-        log.observe("focusDuration", m_timer->focusDuration);
-        log.observe("breakDuration", m_timer->breakDuration);
-        log.observe("isPlaying", m_timer->musicPlayer().isPlaying);
-        log.observe("currentURL", m_timer->musicPlayer().currentURL);
-        log.keep(NotificationCenter::defaultCenter().addObserver(
-            pomodoroSessionCompleted, [this](const Notification& notification) {
-                log.add("completed " + ChangeLog::text(std::any_cast<PomodoroPhase>(notification.object)));
-            }));
-        sounds.onPlay = [this] { log.add("sound " + sounds.played.back()); };
-        defaults.onWrite = [this] { log.add("stored " + defaults.writes.back().first); };
-        defaults.writes.clear();
-        players.calls.clear();
-    }
-};
+using PomodoroTimerTest = TimerFixture;
 
 // Construction
 
@@ -124,10 +25,10 @@ TEST_F(PomodoroTimerTest, ReadsTheSettingsOnceAndWritesNone)
     settings.focusMinutes.set(40);
     settings.breakMinutes.set(7);
     settings.autoTransition.set(true);
-    defaults.writes.clear();
+    store.writes.clear();
 
     const PomodoroTimer made{settings, runLoop, players};
-    EXPECT_TRUE(defaults.writes.empty());
+    EXPECT_TRUE(store.writes.empty());
     settings.focusMinutes.set(1);
     settings.breakMinutes.set(1);
 
@@ -330,45 +231,6 @@ TEST_F(PomodoroTimerTest, AOneMinutePhaseEndsOnTheSixtyFirstTick)
     expectReady(PomodoroPhase::breakTime, 300);
 }
 
-TEST_F(PomodoroTimerTest, TheCountdownCueSoundsOnTicksFiftyOneToSixtyOfAMinute)
-{
-    settings.focusMinutes.set(1);
-    timer().start();
-    std::vector<int> cues;
-
-    for (int tick = 1; tick <= 61; ++tick) {
-        sounds.played.clear();
-        runLoop.advance(1s);
-        if (sounds.played == Lines{"Tink"})
-            cues.push_back(tick);
-    }
-
-    EXPECT_EQ(cues, (std::vector<int>{51, 52, 53, 54, 55, 56, 57, 58, 59, 60}));
-}
-
-TEST_F(PomodoroTimerTest, TheCueComesBeforeTheSecondIsTaken)
-{
-    settings.focusMinutes.set(1);
-    startAndTick(50);
-
-    runLoop.advance(1s);
-
-    EXPECT_EQ(log.take(), (Lines{"sound Tink", "remainingSeconds=9"}));
-}
-
-TEST_F(PomodoroTimerTest, AChangedCountdownSoundIsUsedOnTheNextTick)
-{
-    settings.focusMinutes.set(1);
-    startAndTick(51);
-
-    settings.countdownSound.set(SoundOption::pop);
-    runLoop.advance(1s);
-    settings.countdownSound.set(SoundOption::none);
-    runLoop.advance(1s);
-
-    EXPECT_EQ(sounds.asked, (Lines{"Tink", "Pop"}));
-}
-
 TEST_F(PomodoroTimerTest, APhaseEndsInOrder)
 {
     settings.focusMinutes.set(1);
@@ -379,57 +241,6 @@ TEST_F(PomodoroTimerTest, APhaseEndsInOrder)
     EXPECT_EQ(log.take(),
         (Lines{"isRunning=false", "isPlaying=false", "isPlaying=false", "currentURL=absent", "sound Glass",
             "completed focus", "phase=break", "remainingSeconds=300", "hasStarted=false"}));
-}
-
-TEST_F(PomodoroTimerTest, ABreakEndsWithItsOwnSoundAndReturnsToFocus)
-{
-    settings.breakMinutes.set(1);
-    timer().switchToPhase(PomodoroPhase::breakTime);
-    startAndTick(60);
-
-    runLoop.advance(1s);
-
-    EXPECT_EQ(log.take(),
-        (Lines{"isRunning=false", "isPlaying=false", "isPlaying=false", "currentURL=absent", "sound Submarine",
-            "completed break", "phase=focus", "remainingSeconds=1500", "hasStarted=false"}));
-}
-
-TEST_F(PomodoroTimerTest, CompletionIsPostedWhileTheTimerStillShowsTheEndedPhase)
-{
-    settings.focusMinutes.set(1);
-    timer();
-    int posts = 0;
-    const auto observer
-        = NotificationCenter::defaultCenter().addObserver(pomodoroSessionCompleted, [&](const Notification& completed) {
-              ++posts;
-              EXPECT_EQ(completed.name, "pomodoroSessionCompleted");
-              EXPECT_EQ(std::any_cast<PomodoroPhase>(completed.object), PomodoroPhase::focus);
-              EXPECT_EQ(timer().phase(), PomodoroPhase::focus);
-              EXPECT_FALSE(timer().isRunning());
-              EXPECT_TRUE(timer().hasStarted());
-              EXPECT_EQ(timer().remainingSeconds(), 0);
-              EXPECT_EQ(sounds.played.back(), "Glass");
-              EXPECT_EQ(runLoop.liveTimers(), 0U);
-          });
-
-    finishPhase();
-
-    EXPECT_EQ(posts, 1);
-}
-
-TEST_F(PomodoroTimerTest, CompletionIsPostedAlsoWhenTheEndSoundIsOff)
-{
-    settings.focusEndSound.set(SoundOption::none);
-    settings.countdownSound.set(SoundOption::none);
-    timer();
-    int posts = 0;
-    const auto observer = NotificationCenter::defaultCenter().addObserver(
-        pomodoroSessionCompleted, [&](const Notification&) { ++posts; });
-
-    finishPhase();
-
-    EXPECT_EQ(posts, 1);
-    EXPECT_TRUE(sounds.asked.empty());
 }
 
 TEST_F(PomodoroTimerTest, WithoutAutoTransitionTheOtherPhaseRestsAtItsFullLengthWithoutMusic)
@@ -511,7 +322,7 @@ TEST_F(PomodoroTimerTest, LessThanAMinuteRunsAsOneButIsStoredAsGiven)
     EXPECT_EQ(timer().focusDuration(), 60);
     EXPECT_EQ(timer().remainingSeconds(), 60);
     EXPECT_EQ(settings.focusMinutes(), 0);
-    EXPECT_EQ(defaults.object("focusMinutes"), StoredValue(std::int64_t{0}));
+    EXPECT_EQ(store.object("focusMinutes"), StoredValue(std::int64_t{0}));
 
     timer().updateDurations(5, -7);
     EXPECT_EQ(timer().breakDuration(), 60);
@@ -584,84 +395,6 @@ TEST_F(PomodoroTimerTest, ChangingTheSettingDoesNotReachTheTimer)
 
     finishPhase();
     EXPECT_FALSE(timer().isRunning());
-}
-
-// Music
-
-TEST_F(PomodoroTimerTest, MusicThatIsOffForTheBreakReturnsWithTheFocus)
-{
-    useMusic();
-    settings.enableBreakMusic.set(false);
-    settings.autoTransition.set(true);
-
-    finishPhase();
-    EXPECT_EQ(timer().phase(), PomodoroPhase::breakTime);
-    EXPECT_FALSE(timer().musicPlayer().isPlaying());
-    EXPECT_EQ(timer().musicPlayer().currentURL(), std::nullopt);
-
-    finishPhase();
-    EXPECT_EQ(timer().phase(), PomodoroPhase::focus);
-    EXPECT_TRUE(timer().musicPlayer().isPlaying());
-    EXPECT_EQ(players.opened, (Lines{lush, lush}));
-}
-
-TEST_F(PomodoroTimerTest, AnEmptyCustomAddressPlaysNothingAndReportsNothing)
-{
-    useMusic();
-    settings.focusMusicPreset.set(MusicPreset::custom);
-    testing::internal::CaptureStdout();
-
-    timer().start();
-
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
-    EXPECT_EQ(log.take(), (Lines{"isRunning=true", "hasStarted=true"}));
-    EXPECT_TRUE(players.opened.empty());
-}
-
-TEST_F(PomodoroTimerTest, StartingMusicThatIsOffOrHasNoAddressLeavesThePlayerAsItIs)
-{
-    useMusic();
-    startAndTick(1);
-
-    settings.focusMusicPreset.set(MusicPreset::custom);
-    timer().startMusicForCurrentPhase();
-    settings.enableFocusMusic.set(false);
-    timer().startMusicForCurrentPhase();
-
-    EXPECT_TRUE(timer().musicPlayer().isPlaying());
-    EXPECT_EQ(players.calls, (Lines{"1 made", "1 volume 0.25", "1 play"}));
-}
-
-TEST_F(PomodoroTimerTest, StartingMusicLooksAtThePhaseAndNotAtRunning)
-{
-    useMusic();
-    settings.musicVolume.set(1.5F);
-    timer().switchToPhase(PomodoroPhase::breakTime);
-
-    timer().startMusicForCurrentPhase();
-
-    EXPECT_FALSE(timer().isRunning());
-    EXPECT_EQ(players.opened, Lines{ambient});
-    EXPECT_EQ(players.calls, (Lines{"1 made", "1 volume 1.5", "1 play"}));
-}
-
-TEST_F(PomodoroTimerTest, ResetSwitchAndNewDurationsStopTheMusic)
-{
-    useMusic();
-    const std::vector<std::function<void()>> operations{
-        [this] { timer().reset(); },
-        [this] { timer().updateDurations(25, 5); },
-        [this] { timer().switchToPhase(PomodoroPhase::breakTime); },
-    };
-    for (const auto& operation : operations) {
-        startAndTick(1);
-        ASSERT_TRUE(timer().musicPlayer().isPlaying());
-
-        operation();
-
-        EXPECT_FALSE(timer().musicPlayer().isPlaying());
-        EXPECT_EQ(timer().musicPlayer().currentURL(), std::nullopt);
-    }
 }
 
 // Arithmetic

@@ -30,16 +30,16 @@ TEST_F(StatusBarControllerTest, TheButtonShowsTheTimeAtOnce)
     EXPECT_EQ(button().titles, Lines{"25:00"}) << "before the first delivery";
     EXPECT_EQ(button().appearsDisabled, std::vector<bool>{false});
     EXPECT_TRUE(button().action);
-    EXPECT_EQ(world.statusItem->menu, controller().statusMenu().menu());
+    EXPECT_EQ(statusItem->menu, controller().statusMenu().menu());
 }
 
 TEST_F(StatusBarControllerTest, BuildsNoPanelAndNoWindowYet)
 {
     controller();
-    world.runLoop.runTurns();
+    runLoop.runTurns();
 
-    EXPECT_EQ(world.panelsMade, 0);
-    EXPECT_TRUE(world.windowsMade.empty());
+    EXPECT_EQ(panelsMade, 0);
+    EXPECT_TRUE(windowsMade.empty());
 }
 
 TEST_F(StatusBarControllerTest, TheTitleShowsMinutesAndSecondsWithoutCappingTheMinutes)
@@ -48,7 +48,7 @@ TEST_F(StatusBarControllerTest, TheTitleShowsMinutesAndSecondsWithoutCappingTheM
         {1, "01:00"}, {25, "25:00"}, {90, "90:00"}, {100, "100:00"}};
     for (const auto& [minutes, title] : cases) {
         timer().updateDurations(minutes, 5);
-        world.runLoop.runTurns();
+        runLoop.runTurns();
 
         EXPECT_EQ(button().title(), title);
     }
@@ -72,7 +72,7 @@ TEST_F(StatusBarControllerTest, TheTitleFollowsTheCountdownDownToZero)
 TEST_F(StatusBarControllerTest, ATitleIsWrittenOnceATickAndNeverLooksDisabled)
 {
     timer().start();
-    world.runLoop.runTurns();
+    runLoop.runTurns();
     button().titles.clear();
     button().appearsDisabled.clear();
 
@@ -85,36 +85,36 @@ TEST_F(StatusBarControllerTest, ATitleIsWrittenOnceATickAndNeverLooksDisabled)
 TEST_F(StatusBarControllerTest, AChangeOfThePhaseAloneRewritesTheTitleWithTheSameText)
 {
     timer().updateDurations(5, 5);
-    world.runLoop.runTurns();
+    runLoop.runTurns();
     button().titles.clear();
 
     timer().switchToPhase(PomodoroPhase::breakTime);
-    world.runLoop.runTurns();
+    runLoop.runTurns();
 
     EXPECT_EQ(button().titles, Lines{"05:00"});
 }
 
 TEST_F(StatusBarControllerTest, TheTitleIsWrittenInTheTurnAfterTheChange)
 {
-    world.runLoop.runTurns();
+    runLoop.runTurns();
     timer().updateDurations(50, 10);
     EXPECT_EQ(button().title(), "25:00");
 
-    world.runLoop.runTurns();
+    runLoop.runTurns();
     EXPECT_EQ(button().title(), "50:00");
 }
 
 TEST_F(StatusBarControllerTest, WithoutAButtonTheMenuAndTheSubscriptionsStillWork)
 {
-    world.statusItemHasButton = false;
+    statusItemHasButton = false;
 
     EXPECT_EQ(settledMenu().front(), "Start Focus");
     timer().start();
     EXPECT_EQ(settledMenu().front(), "Pause Focus");
 
-    world.application.event = rightClick;
+    application.event = rightClick;
     controller().handleStatusItemClick();
-    EXPECT_EQ(world.statusItem->popUps, 0);
+    EXPECT_EQ(statusItem->popUps, 0);
 }
 
 TEST_F(StatusBarControllerTest, WhatWaitsWhenTheControllerGoesIsNotDelivered)
@@ -122,25 +122,25 @@ TEST_F(StatusBarControllerTest, WhatWaitsWhenTheControllerGoesIsNotDelivered)
     timer().start();
 
     m_controller.reset();
-    world.runLoop.runTurns();
+    runLoop.runTurns();
     m_timer->pause();
     NotificationCenter::defaultCenter().post(pomodoroSessionCompleted, PomodoroPhase::focus);
-    world.runLoop.runTurns();
+    runLoop.runTurns();
 
-    EXPECT_EQ(world.runLoop.waitingWorks(), 0U);
-    EXPECT_EQ(world.panelsMade, 0);
+    EXPECT_EQ(runLoop.waitingWorks(), 0U);
+    EXPECT_EQ(panelsMade, 0);
 }
 
 TEST_F(StatusBarControllerTest, NothingWaitsWhileNothingChanges)
 {
     controller();
-    world.runLoop.runTurns();
-    const auto changes = world.statusItem->menuChanges;
+    runLoop.runTurns();
+    const auto changes = statusItem->menuChanges;
 
-    world.runLoop.advance(1min);
+    runLoop.advance(1min);
 
-    EXPECT_EQ(world.runLoop.liveTimers(), 0U);
-    EXPECT_EQ(world.statusItem->menuChanges, changes);
+    EXPECT_EQ(runLoop.liveTimers(), 0U);
+    EXPECT_EQ(statusItem->menuChanges, changes);
 }
 
 // Clicks
@@ -168,13 +168,13 @@ TEST_F(StatusBarControllerTest, EveryClickTogglesThePanelOrOpensTheMenu)
                 controller().showTimer();
             else
                 controller().hideTimer();
-            world.statusItem->popUps = 0;
+            statusItem->popUps = 0;
 
-            world.application.event = event;
+            application.event = event;
             button().action();
 
-            EXPECT_EQ(world.statusItem->popUps, opensMenu ? 1 : 0);
-            EXPECT_EQ(world.panel->isVisible(), opensMenu ? wasVisible : !wasVisible);
+            EXPECT_EQ(statusItem->popUps, opensMenu ? 1 : 0);
+            EXPECT_EQ(panel->isVisible(), opensMenu ? wasVisible : !wasVisible);
             EXPECT_FALSE(timer().isRunning());
         }
     }
@@ -184,35 +184,35 @@ TEST_F(StatusBarControllerTest, ALeftClickShowsThePanelUnderTheItemAndASecondOne
 {
     controller();
 
-    world.click(leftClick);
-    EXPECT_TRUE(world.panel->isVisible());
-    EXPECT_EQ(world.panel->frame, (Rect{1040, 654, 360, 420}));
+    click(leftClick);
+    EXPECT_TRUE(panel->isVisible());
+    EXPECT_EQ(panel->frame, (Rect{1040, 654, 360, 420}));
 
-    world.click(leftClick);
-    EXPECT_FALSE(world.panel->isVisible());
-    EXPECT_EQ(world.statusItem->popUps, 0);
+    click(leftClick);
+    EXPECT_FALSE(panel->isVisible());
+    EXPECT_EQ(statusItem->popUps, 0);
 }
 
 TEST_F(StatusBarControllerTest, AfterTheMenuALeftClickTogglesThePanelAgain)
 {
     controller();
 
-    world.click(rightClick);
-    world.click(leftClick);
+    click(rightClick);
+    click(leftClick);
 
-    EXPECT_EQ(world.statusItem->popUps, 1);
-    EXPECT_TRUE(world.panel->isVisible());
+    EXPECT_EQ(statusItem->popUps, 1);
+    EXPECT_TRUE(panel->isVisible());
 }
 
 TEST_F(StatusBarControllerTest, TheMenuIsUpToDateBeforeItOpens)
 {
     controller();
-    world.runLoop.runTurns();
+    runLoop.runTurns();
     timer().start();
     std::string title;
-    world.statusItem->onPopUp = [&] { title = menu().front(); };
+    statusItem->onPopUp = [&] { title = menu().front(); };
 
-    world.click(rightClick);
+    click(rightClick);
 
     EXPECT_EQ(title, "Pause Focus") << "though nothing has been delivered yet";
 }
@@ -223,17 +223,17 @@ TEST_F(StatusBarControllerTest, TheMenuOpensAlsoWhenAskedForWithoutAClick)
 
     NotificationCenter::defaultCenter().post(statusBarOpenMenu);
 
-    EXPECT_EQ(world.statusItem->popUps, 1);
-    EXPECT_EQ(world.panelsMade, 0);
+    EXPECT_EQ(statusItem->popUps, 1);
+    EXPECT_EQ(panelsMade, 0);
 }
 
 TEST_F(StatusBarControllerTest, AMenuThatAHostOpensIsUpToDateToo)
 {
     controller();
-    world.runLoop.runTurns();
+    runLoop.runTurns();
     timer().start();
 
-    world.statusItem->menu->willOpen();
+    statusItem->menu->willOpen();
 
     EXPECT_EQ(menu().front(), "Pause Focus");
 }
@@ -244,25 +244,25 @@ TEST_F(StatusBarControllerTest, AtTheEndOfAPhaseTheHiddenPanelIsShownWithoutActi
 {
     timer().start();
     tick(1500);
-    EXPECT_EQ(world.panelsMade, 0);
+    EXPECT_EQ(panelsMade, 0);
 
     tick(1);
 
-    EXPECT_TRUE(world.panel->isVisible());
-    EXPECT_EQ(world.panel->frame, (Rect{1040, 654, 360, 420}));
-    EXPECT_EQ(world.panel->keys, 0);
-    EXPECT_EQ(world.application.activations, 0);
-    EXPECT_EQ(world.statusItem->popUps, 0);
+    EXPECT_TRUE(panel->isVisible());
+    EXPECT_EQ(panel->frame, (Rect{1040, 654, 360, 420}));
+    EXPECT_EQ(panel->keys, 0);
+    EXPECT_EQ(application.activations, 0);
+    EXPECT_EQ(statusItem->popUps, 0);
 }
 
 TEST_F(StatusBarControllerTest, ThePanelHasTheKeyboardOnlyWhenThatIsAskedFor)
 {
     controller().showTimer();
-    EXPECT_EQ(world.panel->keys, 0);
+    EXPECT_EQ(panel->keys, 0);
 
     NotificationCenter::defaultCenter().post(statusBarShowTimer);
-    EXPECT_EQ(world.panel->fronts, 2);
-    EXPECT_EQ(world.panel->keys, 1);
+    EXPECT_EQ(panel->fronts, 2);
+    EXPECT_EQ(panel->keys, 1);
 }
 
 TEST_F(StatusBarControllerTest, AtTheEndOfAPhaseTheVisiblePanelStaysAndComesToTheFrontAgain)
@@ -272,9 +272,9 @@ TEST_F(StatusBarControllerTest, AtTheEndOfAPhaseTheVisiblePanelStaysAndComesToTh
 
     tick(1501);
 
-    EXPECT_TRUE(world.panel->isVisible());
-    EXPECT_EQ(world.panel->fronts, 2);
-    EXPECT_EQ(world.panel->outs, 0);
+    EXPECT_TRUE(panel->isVisible());
+    EXPECT_EQ(panel->fronts, 2);
+    EXPECT_EQ(panel->outs, 0);
 }
 
 TEST_F(StatusBarControllerTest, ThePanelIsShownInTheTurnAfterTheNotification)
@@ -282,10 +282,10 @@ TEST_F(StatusBarControllerTest, ThePanelIsShownInTheTurnAfterTheNotification)
     controller();
 
     NotificationCenter::defaultCenter().post("pomodoroSessionCompleted");
-    EXPECT_EQ(world.panelsMade, 0);
+    EXPECT_EQ(panelsMade, 0);
 
-    world.runLoop.runTurns();
-    EXPECT_TRUE(world.panel->isVisible());
+    runLoop.runTurns();
+    EXPECT_TRUE(panel->isVisible());
 }
 
 } // namespace velto

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/PomodoroTimer.h"
 #include "help_about/AboutWindowController.h"
 #include "help_about/HelpWindowController.h"
 #include "menubar/StatusBarController.h"
 #include "panel/TimerPanelController.h"
-#include "settings/AppSettings.h"
-#include "support/FakePlatform.h"
 #include "support/MenuText.h"
+#include "support/World.h"
 
 #include <gtest/gtest.h>
 
@@ -19,18 +17,16 @@
 namespace velto {
 
 /// A status bar controller in a world of fakes. Made on first use, so that a test can change the world before.
-class StatusBarFixture : public testing::Test {
+class StatusBarFixture : public testing::Test, protected World {
 protected:
     using Lines = std::vector<std::string>;
 
     StatusBarController& controller()
     {
         if (!m_controller) {
-            m_timer = std::make_unique<PomodoroTimer>(settings, world.runLoop, world.streamPlayers);
-            const auto& platform = world.platform;
-            m_controller = std::make_unique<StatusBarController>(*m_timer, settings,
+            m_controller = std::make_unique<StatusBarController>(World::timer(), settings,
                 std::make_unique<TimerPanelController>(
-                    *m_timer, settings, platform.screens, platform.eventMonitor, platform.makePanel),
+                    World::timer(), settings, platform.screens, platform.eventMonitor, platform.makePanel),
                 StatusBarController::Desktop{
                     .runLoop = platform.runLoop,
                     .application = platform.application,
@@ -45,13 +41,13 @@ protected:
     PomodoroTimer& timer()
     {
         controller();
-        return *m_timer;
+        return World::timer();
     }
 
     FakeStatusItemButton& button()
     {
         controller();
-        return *world.statusItem->button();
+        return *statusItem->button();
     }
 
     Lines menu() { return menuText(*controller().statusMenu().menu()); }
@@ -60,7 +56,7 @@ protected:
     Lines settledMenu()
     {
         controller();
-        world.runLoop.runTurns();
+        runLoop.runTurns();
         return menu();
     }
 
@@ -70,14 +66,9 @@ protected:
         ASSERT_NE(item, nullptr) << path;
         ASSERT_TRUE(item->action) << path;
         item->action(*item);
-        world.runLoop.runTurns();
+        runLoop.runTurns();
     }
 
-    void tick(std::int64_t seconds) { world.runLoop.advance(std::chrono::seconds(seconds)); }
-
-    FakePlatform world;
-    AppSettings settings{world.defaults, world.sounds};
-    std::unique_ptr<PomodoroTimer> m_timer;
     std::unique_ptr<StatusBarController> m_controller;
 };
 

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panel/TimerPanelController.h"
 
-#include "core/PomodoroTimer.h"
-#include "settings/AppSettings.h"
-#include "support/FakePlatform.h"
+#include "support/World.h"
 
 #include <gtest/gtest.h>
 
@@ -93,22 +91,19 @@ TEST(PulledInsideTest, MovesAsLittleAsItTakes)
 
 // The controller
 
-class TimerPanelControllerTest : public testing::Test {
+class TimerPanelControllerTest : public testing::Test, protected World {
 protected:
-    void press() { world.eventMonitor.pressOutside(); }
-    [[nodiscard]] std::size_t monitors() const { return world.eventMonitor.installedMonitors(); }
+    void press() { eventMonitor.pressOutside(); }
+    [[nodiscard]] std::size_t monitors() const { return eventMonitor.installedMonitors(); }
 
-    FakePlatform world;
-    AppSettings settings{world.defaults, world.sounds};
-    PomodoroTimer timer{settings, world.runLoop, world.streamPlayers};
     FakeStatusItemButton button;
     std::vector<Size> sizesAskedFor;
-    TimerPanelController controller{timer, settings, world.screens, world.eventMonitor,
+    TimerPanelController controller{timer(), settings, screens, eventMonitor,
         [this](PomodoroTimer& timerShown, AppSettings& settingsShown, Size size) {
-            EXPECT_EQ(&timerShown, &timer);
+            EXPECT_EQ(&timerShown, &timer());
             EXPECT_EQ(&settingsShown, &settings);
             sizesAskedFor.push_back(size);
-            return world.platform.makePanel(timerShown, settingsShown, size);
+            return platform.makePanel(timerShown, settingsShown, size);
         }};
 };
 
@@ -116,11 +111,11 @@ TEST_F(TimerPanelControllerTest, ThePanelIsMadeOnFirstAccessInItsSizeAndKept)
 {
     EXPECT_TRUE(sizesAskedFor.empty());
 
-    auto& panel = controller.panel();
+    const auto* made = &controller.panel();
     controller.show(&button);
     controller.hide();
 
-    EXPECT_EQ(&panel, &controller.panel());
+    EXPECT_EQ(made, &controller.panel());
     EXPECT_EQ(sizesAskedFor, std::vector<Size>{(Size{360, 420})});
 }
 
@@ -128,10 +123,10 @@ TEST_F(TimerPanelControllerTest, ShowPlacesItAndBringsItToTheFront)
 {
     controller.show(&button);
 
-    EXPECT_EQ(world.panel->frame, (Rect{1040, 654, 360, 420}));
-    EXPECT_TRUE(world.panel->isVisible());
-    EXPECT_EQ(world.panel->fronts, 1);
-    EXPECT_EQ(world.application.activations, 0);
+    EXPECT_EQ(panel->frame, (Rect{1040, 654, 360, 420}));
+    EXPECT_TRUE(panel->isVisible());
+    EXPECT_EQ(panel->fronts, 1);
+    EXPECT_EQ(application.activations, 0);
 }
 
 TEST_F(TimerPanelControllerTest, ItIsPlacedAnewOnEveryShow)
@@ -141,46 +136,46 @@ TEST_F(TimerPanelControllerTest, ItIsPlacedAnewOnEveryShow)
 
     controller.show(&button);
 
-    EXPECT_EQ(world.panel->frame, (Rect{0, 654, 360, 420}));
-    EXPECT_EQ(world.panel->fronts, 2);
+    EXPECT_EQ(panel->frame, (Rect{0, 654, 360, 420}));
+    EXPECT_EQ(panel->fronts, 2);
 }
 
 TEST_F(TimerPanelControllerTest, WhenScreensChangeAVisiblePanelStaysWithinReach)
 {
     const Screen smaller{.frame = {0, 0, 1024, 600}, .visibleFrame = {0, 0, 1024, 572}};
     controller.show(&button);
-    world.screens.change({smaller});
-    EXPECT_EQ(world.panel->frame, (Rect{664, 152, 360, 420}));
-    EXPECT_EQ(world.panel->fronts, 1);
+    screens.change({smaller});
+    EXPECT_EQ(panel->frame, (Rect{664, 152, 360, 420}));
+    EXPECT_EQ(panel->fronts, 1);
 
-    const int placements = world.panel->placements;
-    world.screens.change({smaller, {.frame = {1024, 0, 800, 600}, .visibleFrame = {1024, 0, 800, 600}}});
-    world.screens.change({});
+    const int placements = panel->placements;
+    screens.change({smaller, {.frame = {1024, 0, 800, 600}, .visibleFrame = {1024, 0, 800, 600}}});
+    screens.change({});
     controller.hide();
-    world.screens.change({Screen{.frame = {0, 0, 640, 480}, .visibleFrame = {0, 0, 640, 480}}});
-    EXPECT_EQ(world.panel->placements, placements);
+    screens.change({Screen{.frame = {0, 0, 640, 480}, .visibleFrame = {0, 0, 640, 480}}});
+    EXPECT_EQ(panel->placements, placements);
 }
 
 TEST_F(TimerPanelControllerTest, APanelOnAScreenThatIsGoneComesToTheMainOne)
 {
-    const auto mainScreen = world.screens.screens.front();
-    world.screens.screens.push_back({.frame = {-1920, 0, 1920, 1080}, .visibleFrame = {-1920, 0, 1920, 1055}});
+    const auto mainScreen = screens.screens.front();
+    screens.screens.push_back({.frame = {-1920, 0, 1920, 1080}, .visibleFrame = {-1920, 0, 1920, 1055}});
     button.rect = Rect{-500, 1058, 40, 22};
     controller.show(&button);
 
-    world.screens.change({mainScreen});
+    screens.change({mainScreen});
 
-    EXPECT_EQ(world.panel->frame, (Rect{0, 457, 360, 420}));
+    EXPECT_EQ(panel->frame, (Rect{0, 457, 360, 420}));
 }
 
 TEST_F(TimerPanelControllerTest, TheScreenOfTheButtonCounts)
 {
-    world.screens.screens.push_back({.frame = {-1920, 0, 1920, 1080}, .visibleFrame = {-1920, 0, 1920, 1055}});
+    screens.screens.push_back({.frame = {-1920, 0, 1920, 1080}, .visibleFrame = {-1920, 0, 1920, 1055}});
     button.rect = Rect{-500, 1058, 40, 22};
 
     controller.show(&button);
 
-    EXPECT_EQ(world.panel->frame, (Rect{-660, 632, 360, 420}));
+    EXPECT_EQ(panel->frame, (Rect{-660, 632, 360, 420}));
 }
 
 TEST_F(TimerPanelControllerTest, AButtonOnNoScreenHangsOnTheMainOne)
@@ -189,7 +184,7 @@ TEST_F(TimerPanelControllerTest, AButtonOnNoScreenHangsOnTheMainOne)
 
     controller.show(&button);
 
-    EXPECT_EQ(world.panel->frame, (Rect{1080, 654, 360, 420}));
+    EXPECT_EQ(panel->frame, (Rect{1080, 654, 360, 420}));
 }
 
 TEST_F(TimerPanelControllerTest, WithoutAButtonItHangsAtTheTopCentreOfTheMainScreen)
@@ -197,25 +192,25 @@ TEST_F(TimerPanelControllerTest, WithoutAButtonItHangsAtTheTopCentreOfTheMainScr
     const Rect topCentre{540, 451, 360, 420};
 
     controller.show(nullptr);
-    EXPECT_EQ(world.panel->frame, topCentre);
+    EXPECT_EQ(panel->frame, topCentre);
 
-    world.panel->frame = {};
+    panel->frame = {};
     button.rect.reset();
     controller.show(&button);
-    EXPECT_EQ(world.panel->frame, topCentre);
+    EXPECT_EQ(panel->frame, topCentre);
     EXPECT_EQ(monitors(), 1U);
 }
 
 TEST_F(TimerPanelControllerTest, WithoutAScreenItIsShownWhereItWasAndNothingWatches)
 {
-    world.screens.screens.clear();
+    screens.screens.clear();
 
     for (const auto* shownUnder : {&button, static_cast<FakeStatusItemButton*>(nullptr)}) {
         controller.show(shownUnder);
 
-        EXPECT_TRUE(world.panel->isVisible());
-        EXPECT_EQ(world.panel->placements, 0);
-        EXPECT_EQ(world.eventMonitor.requests, 0);
+        EXPECT_TRUE(panel->isVisible());
+        EXPECT_EQ(panel->placements, 0);
+        EXPECT_EQ(eventMonitor.requests, 0);
     }
 }
 
@@ -226,7 +221,7 @@ TEST_F(TimerPanelControllerTest, APressOutsideHidesItAndEndsTheWatch)
 
     press();
 
-    EXPECT_FALSE(world.panel->isVisible());
+    EXPECT_FALSE(panel->isVisible());
     EXPECT_EQ(monitors(), 0U);
 }
 
@@ -238,16 +233,16 @@ TEST_F(TimerPanelControllerTest, AfterAPressOutsideItCanBeShownAndHiddenAgain)
     controller.show(&button);
     press();
 
-    EXPECT_EQ(world.eventMonitor.requests, 2);
-    EXPECT_FALSE(world.panel->isVisible());
-    EXPECT_EQ(world.panel->outs, 2);
+    EXPECT_EQ(eventMonitor.requests, 2);
+    EXPECT_FALSE(panel->isVisible());
+    EXPECT_EQ(panel->outs, 2);
 }
 
 TEST_F(TimerPanelControllerTest, ShownTwiceOneMonitorIsInstalledAndHideRemovesIt)
 {
     controller.show(&button);
     controller.show(&button);
-    EXPECT_EQ(world.eventMonitor.requests, 1);
+    EXPECT_EQ(eventMonitor.requests, 1);
     EXPECT_EQ(monitors(), 1U);
 
     controller.hide();
@@ -256,14 +251,14 @@ TEST_F(TimerPanelControllerTest, ShownTwiceOneMonitorIsInstalledAndHideRemovesIt
 
 TEST_F(TimerPanelControllerTest, WhenPressesCannotBeWatchedTheNextShowTriesAgain)
 {
-    world.eventMonitor.available = false;
+    eventMonitor.available = false;
     controller.show(&button);
-    EXPECT_TRUE(world.panel->isVisible());
+    EXPECT_TRUE(panel->isVisible());
 
-    world.eventMonitor.available = true;
+    eventMonitor.available = true;
     controller.show(&button);
 
-    EXPECT_EQ(world.eventMonitor.requests, 2);
+    EXPECT_EQ(eventMonitor.requests, 2);
     EXPECT_EQ(monitors(), 1U);
 }
 
@@ -273,7 +268,7 @@ TEST_F(TimerPanelControllerTest, HidingAHiddenPanelIsHarmless)
     controller.hide();
 
     EXPECT_EQ(sizesAskedFor.size(), 1U) << "made by the first hide";
-    EXPECT_FALSE(world.panel->isVisible());
+    EXPECT_FALSE(panel->isVisible());
 }
 
 } // namespace velto

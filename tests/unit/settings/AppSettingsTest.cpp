@@ -35,9 +35,9 @@ std::string quoted(std::string_view text)
 
 class AppSettingsTest : public testing::Test {
 protected:
-    [[nodiscard]] AppSettings load() { return {defaults, sounds}; }
+    [[nodiscard]] AppSettings load() { return {store, sounds}; }
 
-    FakeKeyValueStore defaults;
+    FakeKeyValueStore store;
     FakeSoundLibrary sounds;
 };
 
@@ -62,17 +62,17 @@ TEST_F(AppSettingsTest, AnEmptyStoreYieldsTheDefaults)
 
 TEST_F(AppSettingsTest, LoadingWritesNothing)
 {
-    defaults.values["focusMinutes"] = std::string("nonsense");
-    defaults.values["focusEndSound"] = blob("nonsense");
+    store.values["focusMinutes"] = std::string("nonsense");
+    store.values["focusEndSound"] = blob("nonsense");
 
     (void)load();
 
-    EXPECT_TRUE(defaults.writes.empty());
+    EXPECT_TRUE(store.writes.empty());
 }
 
 TEST_F(AppSettingsTest, LoadsWhatIsStored)
 {
-    defaults.values = {
+    store.values = {
         {"focusMinutes", std::int64_t{50}},
         {"breakMinutes", std::int64_t{10}},
         {"autoTransition", true},
@@ -107,8 +107,8 @@ TEST_F(AppSettingsTest, LoadsWhatIsStored)
 
 TEST_F(AppSettingsTest, ZeroAndNegativeMinutesAreLoadedAsTheyAre)
 {
-    defaults.values["focusMinutes"] = std::int64_t{0};
-    defaults.values["breakMinutes"] = std::int64_t{-3};
+    store.values["focusMinutes"] = std::int64_t{0};
+    store.values["breakMinutes"] = std::int64_t{-3};
 
     const auto settings = load();
 
@@ -123,8 +123,8 @@ TEST_F(AppSettingsTest, MinutesThatCannotBeCountedInSecondsCountAsTheDefault)
         {-most - 1, false}, {std::numeric_limits<std::int64_t>::max(), false},
         {std::numeric_limits<std::int64_t>::min(), false}};
     for (const auto& [minutes, isReadable] : cases) {
-        defaults.values["focusMinutes"] = minutes;
-        defaults.values["breakMinutes"] = minutes;
+        store.values["focusMinutes"] = minutes;
+        store.values["breakMinutes"] = minutes;
 
         const auto settings = load();
 
@@ -143,7 +143,7 @@ TEST_F(AppSettingsTest, AValueOfTheWrongKindCountsAsTheDefault)
         for (const auto* key : {"focusMinutes", "breakMinutes", "autoTransition", "countdownSound", "focusEndSound",
                  "breakEndSound", "focusMusicPreset", "breakMusicPreset", "focusCustomURL", "breakCustomURL",
                  "enableFocusMusic", "enableBreakMusic", "musicVolume"})
-            defaults.values[key] = everyKind[i];
+            store.values[key] = everyKind[i];
 
         const auto settings = load();
 
@@ -184,7 +184,7 @@ TEST_F(AppSettingsTest, ASoundIsReadAsOneJsonStringOrCountsAsTheDefault)
         {"", SoundOption::glass},
     };
     for (const auto& [bytes, expected] : cases) {
-        defaults.values["focusEndSound"] = blob(bytes);
+        store.values["focusEndSound"] = blob(bytes);
 
         EXPECT_EQ(load().focusEndSound(), expected) << bytes;
     }
@@ -208,7 +208,7 @@ TEST_F(AppSettingsTest, EveryAssignmentIsWrittenAtOnceUnderItsKey)
     settings.enableBreakMusic.set(false);
     settings.musicVolume.set(0.5F);
 
-    EXPECT_EQ(defaults.writes,
+    EXPECT_EQ(store.writes,
         (Writes{
             {"focusMinutes", std::int64_t{50}},
             {"breakMinutes", std::int64_t{-1}},
@@ -230,7 +230,7 @@ TEST_F(AppSettingsTest, AssigningNoneStoresASixByteBlob)
 {
     load().focusEndSound.set(SoundOption::none);
 
-    EXPECT_EQ(defaults.object("focusEndSound"), StoredValue(Blob{0x22, 'N', 'o', 'n', 'e', 0x22}));
+    EXPECT_EQ(store.object("focusEndSound"), StoredValue(Blob{0x22, 'N', 'o', 'n', 'e', 0x22}));
 }
 
 TEST_F(AppSettingsTest, WhatIsWrittenIsLoadedAgain)
@@ -251,11 +251,11 @@ TEST_F(AppSettingsTest, ObserversHearFirstThenMemoryThenTheStoreChanges)
     std::vector<std::string> steps;
     const auto note = [&](const std::string& step) {
         steps.push_back(step + " at " + std::to_string(settings.focusMinutes()) + " after "
-            + std::to_string(defaults.writes.size()) + " writes");
+            + std::to_string(store.writes.size()) + " writes");
     };
     const auto object = settings.willChange([&] { note("object"); });
     const auto value = settings.focusMinutes.laterChanges([&](std::int64_t) { note("value"); });
-    defaults.onWrite = [&] { note("written"); };
+    store.onWrite = [&] { note("written"); };
 
     settings.focusMinutes.set(30);
 
@@ -274,7 +274,7 @@ TEST_F(AppSettingsTest, AssigningTheValueHeldStillNotifiesAndWrites)
     settings.focusEndSound.set(SoundOption::glass);
 
     EXPECT_EQ(notified, 2);
-    EXPECT_EQ(defaults.writes, (Writes{{"focusMinutes", std::int64_t{25}}, {"focusEndSound", blob(quoted("Glass"))}}));
+    EXPECT_EQ(store.writes, (Writes{{"focusMinutes", std::int64_t{25}}, {"focusEndSound", blob(quoted("Glass"))}}));
 }
 
 TEST_F(AppSettingsTest, TheVolumeIsNotClamped)
@@ -284,7 +284,7 @@ TEST_F(AppSettingsTest, TheVolumeIsNotClamped)
     settings.musicVolume.set(1.7F);
 
     EXPECT_EQ(settings.musicVolume(), 1.7F);
-    EXPECT_EQ(defaults.object("musicVolume"), StoredValue(1.7F));
+    EXPECT_EQ(store.object("musicVolume"), StoredValue(1.7F));
     EXPECT_EQ(load().musicVolume(), 1.7F);
 }
 
@@ -292,7 +292,7 @@ TEST_F(AppSettingsTest, ReadingNeverTouchesTheStore)
 {
     const auto settings = load();
 
-    defaults.values["focusMinutes"] = std::int64_t{99};
+    store.values["focusMinutes"] = std::int64_t{99};
 
     EXPECT_EQ(settings.focusMinutes(), 25);
 }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "app/Platform.h"
+#include "core/PomodoroTimer.h"
+#include "settings/AppSettings.h"
 #include "support/FakeApplication.h"
 #include "support/FakeEventMonitor.h"
 #include "support/FakeKeyValueStore.h"
@@ -13,19 +15,39 @@
 #include "support/FakeStreamPlayerFactory.h"
 #include "support/FakeWindow.h"
 
+#include <chrono>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace velto {
 
-/// The outside world, made of fakes. What it makes for the program belongs to the program; the
-/// pointers here are to the latest of each kind.
-class FakePlatform {
+/// The outside world made of fakes, with settings and timer in it, and time that passes when a test says so.
+///
+///     class CountingTest : public testing::Test, protected World { };
+///     settings.focusMinutes.set(1);
+///     timer().start();
+///     tick(60);
+///
+/// What it makes for the program belongs to the program; the pointers here are to the latest of each kind.
+class World {
 public:
-    FakePlatform() = default;
-    FakePlatform(const FakePlatform&) = delete;
-    FakePlatform& operator=(const FakePlatform&) = delete;
+    World() = default;
+    World(const World&) = delete;
+    World& operator=(const World&) = delete;
+    /// The last player goes later than what a test has put here.
+    ~World() { players.onCall = nullptr; }
+
+    /// Made on first use, so that a test can change the settings before.
+    PomodoroTimer& timer()
+    {
+        if (!m_timer)
+            m_timer.emplace(settings, runLoop, players);
+        return *m_timer;
+    }
+
+    void tick(std::int64_t seconds) { runLoop.advance(std::chrono::seconds(seconds)); }
 
     /// A click on the status item, as the desktop delivers it.
     void click(ClickEvent event)
@@ -36,9 +58,9 @@ public:
     }
 
     FakeRunLoop runLoop;
-    FakeKeyValueStore defaults;
+    FakeKeyValueStore store;
     FakeSoundLibrary sounds;
-    FakeStreamPlayerFactory streamPlayers;
+    FakeStreamPlayerFactory players;
     FakeScreens screens;
     FakeEventMonitor eventMonitor;
     FakeApplication application;
@@ -53,9 +75,9 @@ public:
 
     Platform platform{
         .runLoop = runLoop,
-        .defaults = defaults,
+        .defaults = store,
         .sounds = sounds,
-        .streamPlayers = streamPlayers,
+        .streamPlayers = players,
         .screens = screens,
         .eventMonitor = eventMonitor,
         .application = application,
@@ -76,6 +98,11 @@ public:
         .makeHelpWindow = [this] { return makeWindow("help"); },
         .makeAboutWindow = [this] { return makeWindow("about"); },
     };
+
+    AppSettings settings{store, sounds};
+
+protected:
+    std::optional<PomodoroTimer> m_timer;
 
 private:
     std::unique_ptr<Window> makeWindow(const std::string& name)
