@@ -34,7 +34,7 @@ StatusBarController::StatusBarController(PomodoroTimer& timer, AppSettings& sett
     m_showAtPhaseEnd(desktop.runLoop, [this] { showTimer(); })
 {
     if (auto* button = m_statusItem->button()) {
-        button->setFont(12, FontWeight::semibold);
+        button->setFont(12);
         button->setToolTip("Velto");
         button->setAction([this] { handleStatusItemClick(); });
     }

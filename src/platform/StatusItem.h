@@ -11,15 +11,13 @@
 
 namespace velto {
 
-enum class FontWeight { regular, semibold, bold };
-
 /// The visible part of a status item: a short text that can be clicked.
 class StatusItemButton {
 public:
     virtual ~StatusItemButton() = default;
 
-    /// The system's font; a host that draws the text itself uses its own.
-    virtual void setFont(double points, FontWeight weight) = 0;
+    /// The system's font, semibold; a host that draws the text itself uses its own.
+    virtual void setFont(double points) = 0;
     virtual void setToolTip(const std::string& text) = 0;
     virtual void setTitle(const std::string& title) = 0;
     virtual void setAppearsDisabled(bool disabled) = 0;

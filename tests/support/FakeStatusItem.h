@@ -14,7 +14,7 @@ namespace velto {
 
 class FakeStatusItemButton final : public StatusItemButton {
 public:
-    void setFont(double points, FontWeight weight) override { font = {points, weight}; }
+    void setFont(double points) override { fontSize = points; }
     void setToolTip(const std::string& text) override { toolTip = text; }
     void setTitle(const std::string& title) override { titles.push_back(title); }
     void setAppearsDisabled(bool disabled) override { appearsDisabled.push_back(disabled); }
@@ -23,7 +23,7 @@ public:
 
     [[nodiscard]] std::string title() const { return titles.empty() ? "" : titles.back(); }
 
-    std::pair<double, FontWeight> font;
+    double fontSize = 0;
     std::string toolTip;
     std::vector<std::string> titles;   ///< Every one set, the latest last.
     std::vector<bool> appearsDisabled; ///< Likewise.

@@ -132,13 +132,11 @@ bool DesktopStatusItem::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-void DesktopStatusItem::setFont(double points, FontWeight weight)
+void DesktopStatusItem::setFont(double points)
 {
     m_font = QGuiApplication::font();
     m_font.setPixelSize(static_cast<int>(std::lround(points * textScale(m_font))));
-    m_font.setWeight(weight == FontWeight::bold ? QFont::Bold
-            : weight == FontWeight::semibold    ? QFont::DemiBold
-                                                : QFont::Normal);
+    m_font.setWeight(QFont::DemiBold);
     if (m_strip)
         m_strip->setTextFont(m_font);
     drawPicture();

@@ -48,7 +48,7 @@ protected:
 private:
     struct OnBus;
 
-    void setFont(double points, FontWeight weight) override;
+    void setFont(double points) override;
     void setToolTip(const std::string& text) override;
     void setTitle(const std::string& title) override;
     void setAppearsDisabled(bool disabled) override;

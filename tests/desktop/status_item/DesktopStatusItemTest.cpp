@@ -63,7 +63,7 @@ protected:
         quit->title = "Quit & go";
         quit->isCheckable = true;
         menu->items = {quit};
-        item->button()->setFont(12, FontWeight::semibold);
+        item->button()->setFont(12);
         item->button()->setToolTip("Velto");
         item->button()->setTitle("25:00");
         item->button()->setAction([this] { clicks.push_back(current.value()); });

@@ -5,7 +5,7 @@
 #include "desktop/status_item/ClickGesture.h"
 #include "desktop/status_item/DesktopStatusItem.h"
 #include "fixtures/BusClient.h"
-#include "support/FakePlatform.h"
+#include "support/World.h"
 
 #include <gtest/gtest.h>
 
@@ -132,28 +132,28 @@ void describe(const DBusMenuLayout& menu, const std::string& path, Lines& lines)
 /// The program with everything faked but its status item.
 class ExportedMenuTest : public testing::Test {
 protected:
-    FakePlatform platform;
-    ClickGesture gesture{platform.runLoop};
+    World world;
+    ClickGesture gesture{world.runLoop};
     SessionBus bus{QStringLiteral("program")};
     BusClient client{bus.connection().baseService()};
     std::unique_ptr<VeltoApp> app;
 
     void launch()
     {
-        platform.platform.makeStatusItem = [this] {
+        world.platform.makeStatusItem = [this] {
             return std::make_unique<DesktopStatusItem>(
                 gesture, [](ClickEvent, const std::function<void()>& action) { action(); }, bus);
         };
-        app = std::make_unique<VeltoApp>(platform.platform);
+        app = std::make_unique<VeltoApp>(world.platform);
         app->appDelegate().applicationDidFinishLaunching();
-        platform.runLoop.advance(1s);
+        world.runLoop.advance(1s);
     }
 
     PomodoroTimer& timer() { return app->timer(); }
 
     DBusMenuLayout layout()
     {
-        platform.runLoop.runTurns();
+        world.runLoop.runTurns();
         client.settle();
         const auto reply = client.call("/MenuBar", "com.canonical.dbusmenu", "GetLayout", {0, -1, QStringList()});
         return qdbus_cast<DBusMenuLayout>(reply.arguments().value(1));
@@ -179,7 +179,7 @@ protected:
         client.call("/MenuBar", "com.canonical.dbusmenu", "Event",
             {here.id, "clicked", QVariant::fromValue(QDBusVariant(0)), QVariant::fromValue(uint(0))});
         client.settle();
-        platform.runLoop.runTurns();
+        world.runLoop.runTurns();
     }
 };
 
@@ -205,7 +205,7 @@ TEST_F(ExportedMenuTest, ShowsAPausedTimer)
 {
     launch();
     choose({"Start Focus"});
-    platform.runLoop.advance(5s);
+    world.runLoop.advance(5s);
     choose({"Pause Focus"});
 
     EXPECT_FALSE(timer().isRunning());
@@ -272,7 +272,7 @@ TEST_F(ExportedMenuTest, MarksTheOnePresetThatFitsBothDurations)
 
 TEST_F(ExportedMenuTest, MarksTheMusicThatIsChosenAndOnlyNoneWhileItIsOff)
 {
-    platform.defaults.set("focusMusicPreset", Blob{'"', 'L', 'u', 's', 'h', '"'});
+    world.store.set("focusMusicPreset", Blob{'"', 'L', 'u', 's', 'h', '"'});
     launch();
     EXPECT_EQ(app->settings().focusMusicPreset(), MusicPreset::lush);
     EXPECT_EQ(menu(), fresh);
@@ -292,15 +292,15 @@ TEST_F(ExportedMenuTest, RestartsTheMusicOfTheRunningPhaseOnly)
     choose({"Start Focus"});
 
     choose({"Break Music", "Lush"});
-    EXPECT_TRUE(platform.streamPlayers.opened.empty());
+    EXPECT_TRUE(world.players.opened.empty());
 
     choose({"Focus Music", "Groove Salad"});
-    EXPECT_EQ(platform.streamPlayers.opened.size(), 1U);
-    EXPECT_EQ(platform.streamPlayers.calls.back(), "1 play");
+    EXPECT_EQ(world.players.opened.size(), 1U);
+    EXPECT_EQ(world.players.calls.back(), "1 play");
 
     choose({"Focus Music", "None"});
-    EXPECT_TRUE(std::ranges::count(platform.streamPlayers.calls, "1 pause"));
-    EXPECT_EQ(platform.streamPlayers.opened.size(), 1U);
+    EXPECT_TRUE(std::ranges::count(world.players.calls, "1 pause"));
+    EXPECT_EQ(world.players.opened.size(), 1U);
 }
 
 TEST_F(ExportedMenuTest, FlipsTheTransitionAndShowsTheWindows)
@@ -313,10 +313,10 @@ TEST_F(ExportedMenuTest, FlipsTheTransitionAndShowsTheWindows)
     choose({"Auto-Transition"});
     EXPECT_EQ(menu(), fresh);
 
-    platform.windowsShown.clear();
+    world.windowsShown.clear();
     choose({"How to Use"});
     choose({"About velto"});
-    EXPECT_EQ(platform.windowsShown, Lines({"help", "about"}));
+    EXPECT_EQ(world.windowsShown, Lines({"help", "about"}));
 }
 
 } // namespace

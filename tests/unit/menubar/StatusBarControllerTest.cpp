@@ -25,7 +25,7 @@ constexpr ClickEvent controlOtherClick{.kind = ClickEvent::Kind::otherMouseUp, .
 
 TEST_F(StatusBarControllerTest, TheButtonShowsTheTimeAtOnce)
 {
-    EXPECT_EQ(button().font, (std::pair(12.0, FontWeight::semibold)));
+    EXPECT_EQ(button().fontSize, 12);
     EXPECT_EQ(button().toolTip, "Velto");
     EXPECT_EQ(button().titles, Lines{"25:00"}) << "before the first delivery";
     EXPECT_EQ(button().appearsDisabled, std::vector<bool>{false});

@@ -58,14 +58,15 @@ protected:
         return {calls.begin() + 13, calls.end()};
     }
 
+    /// Music for both phases; that of the break is of another source.
     void storeMusic(MusicPreset preset, const std::string& url = "")
     {
         settings.enableFocusMusic.set(true);
         settings.focusMusicPreset.set(preset);
         settings.focusCustomURL.set(url);
         settings.enableBreakMusic.set(true);
-        settings.breakMusicPreset.set(preset);
-        settings.breakCustomURL.set(url);
+        settings.breakMusicPreset.set(MusicPreset::custom);
+        settings.breakCustomURL.set("http://break/1");
     }
 
 private:

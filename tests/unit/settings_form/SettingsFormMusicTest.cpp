@@ -92,6 +92,23 @@ TEST_F(SettingsFormMusicTest, AnotherSourceOfTheOtherPhaseWaitsForItsStart)
     EXPECT_THAT(applied(), IsEmpty());
 }
 
+TEST_F(SettingsFormMusicTest, ABreakComparesItsOwnSource)
+{
+    storeMusic(MusicPreset::lofi);
+    timer().switchToPhase(PomodoroPhase::breakTime);
+    timer().start();
+    open();
+    EXPECT_THAT(applied(), IsEmpty());
+
+    calls.clear();
+    form->focusMusicPreset.set(MusicPreset::lush);
+    EXPECT_THAT(applied(), IsEmpty());
+
+    calls.clear();
+    form->breakCustomURL.set("http://break/2");
+    EXPECT_THAT(applied(), testing::Contains("URL http://break/2"));
+}
+
 TEST_F(SettingsFormMusicTest, AnotherSourceOfSilencedMusicRestartsNothing)
 {
     timer().start();
