@@ -1,97 +1,69 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/session/BackgroundOutput.h"
 
-#include <cerrno>
-#include <condition_variable>
-#include <mutex>
-#include <string>
-#include <string_view>
-#include <utility>
+#include <algorithm>
+#include <climits>
 
+#include <poll.h>
 #include <unistd.h>
 
 namespace velto {
 
-class BackgroundOutput::Writer {
-public:
-    explicit Writer(int fileDescriptor) : m_fileDescriptor(fileDescriptor) { }
+namespace {
 
-    void add(const std::string& text)
-    {
-        const std::lock_guard lock(m_mutex);
-        m_pending += text;
-        m_changed.notify_all();
-    }
+constexpr std::size_t mostPending = 1 << 20;
 
-    /// What was added before is still written.
-    void end()
-    {
-        const std::lock_guard lock(m_mutex);
-        m_ended = true;
-        m_changed.notify_all();
-    }
+/// Whether a write of up to PIPE_BUF bytes does not wait; to nobody it doesn't either.
+bool canWrite(int fileDescriptor)
+{
+    pollfd descriptor{fileDescriptor, POLLOUT, 0};
+    return poll(&descriptor, 1, 0) == 1;
+}
 
-    void run()
-    {
-        for (;;) {
-            std::unique_lock lock(m_mutex);
-            m_changed.wait(lock, [this] { return m_ended || !m_pending.empty(); });
-            if (m_pending.empty())
-                return;
-            const auto text = std::exchange(m_pending, {});
-            lock.unlock();
-            writeAll(text);
-        }
-    }
-
-private:
-    void writeAll(std::string_view text) const
-    {
-        while (!text.empty()) {
-            const auto written = ::write(m_fileDescriptor, text.data(), text.size());
-            if (written >= 0)
-                text.remove_prefix(static_cast<std::size_t>(written));
-            else if (errno != EINTR)
-                return;
-        }
-    }
-
-    const int m_fileDescriptor;
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    std::string m_pending;
-    bool m_ended = false;
-};
+} // namespace
 
 BackgroundOutput::BackgroundOutput(std::ostream& stream, int fileDescriptor) :
     m_stream(stream),
-    m_fileDescriptor(fileDescriptor),
-    m_replaced(stream.rdbuf(&m_buffer))
+    m_replaced(stream.rdbuf(&m_buffer)),
+    m_writable(fileDescriptor, QSocketNotifier::Write)
 {
+    m_writable.setEnabled(false);
+    QObject::connect(&m_writable, &QSocketNotifier::activated, [this] { write(); });
 }
 
 BackgroundOutput::~BackgroundOutput()
 {
     m_stream.flush();
     m_stream.rdbuf(m_replaced);
-    if (m_writer)
-        m_writer->end();
 }
 
-void BackgroundOutput::write(const std::string& text)
+void BackgroundOutput::add(const std::string& text)
 {
-    if (!m_writer) {
-        m_writer = std::make_shared<Writer>(m_fileDescriptor);
-        m_threads.run([writer = m_writer] { writer->run(); });
+    if (m_pending.size() >= mostPending)
+        return;
+    m_pending += text;
+    write();
+}
+
+void BackgroundOutput::write()
+{
+    const auto fileDescriptor = static_cast<int>(m_writable.socket());
+    std::size_t done = 0;
+    while (done < m_pending.size() && canWrite(fileDescriptor)) {
+        const auto size = std::min<std::size_t>(m_pending.size() - done, PIPE_BUF);
+        const auto written = ::write(fileDescriptor, m_pending.data() + done, size);
+        // Whoever could have read it is gone.
+        done = written < 0 ? m_pending.size() : done + static_cast<std::size_t>(written);
     }
-    m_writer->add(text);
+    m_pending.erase(0, done);
+    m_writable.setEnabled(!m_pending.empty());
 }
 
 int BackgroundOutput::Buffer::sync()
 {
     if (const auto text = str(); !text.empty()) {
         str({});
-        m_output.write(text);
+        m_output.add(text);
     }
     return 0;
 }

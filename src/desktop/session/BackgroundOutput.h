@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/sound/BackgroundThreads.h"
+#include <QSocketNotifier>
 
-#include <memory>
 #include <ostream>
 #include <sstream>
+#include <string>
 
 namespace velto {
 
-/// Takes over a stream: what is flushed into it goes to a file descriptor in the background, so that a
-/// pipe that nobody reads holds up nothing.
+/// Takes over a stream: what is flushed into it goes to a file descriptor as far as its reader takes it at once, and
+/// the rest from the event loop when the reader takes more. So nothing waits for a pipe that nobody reads. While a
+/// mebibyte waits for its reader, what is flushed is dropped as a whole.
 ///
-/// Going away gives the stream back, and waits up to half a second for what is still to be written.
+/// Going away gives the stream back and waits for nothing.
 class BackgroundOutput {
 public:
     /// `stream` must outlive this.
@@ -22,8 +23,6 @@ public:
     ~BackgroundOutput();
 
 private:
-    class Writer;
-
     /// Hands its content on with each flush.
     class Buffer final : public std::stringbuf {
     public:
@@ -36,14 +35,14 @@ private:
         BackgroundOutput& m_output;
     };
 
-    void write(const std::string& text);
+    void add(const std::string& text);
+    void write();
 
     std::ostream& m_stream;
-    int m_fileDescriptor;
     Buffer m_buffer{*this};
     std::streambuf* m_replaced;
-    BackgroundThreads m_threads;
-    std::shared_ptr<Writer> m_writer; ///< Null before the first flush.
+    std::string m_pending;
+    QSocketNotifier m_writable; ///< Enabled while something is pending.
 };
 
 } // namespace velto

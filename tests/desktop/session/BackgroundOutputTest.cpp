@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/session/BackgroundOutput.h"
 
+#include <QCoreApplication>
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <csignal>
+#include <filesystem>
+#include <iterator>
 #include <optional>
 #include <sstream>
 #include <string>
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace velto {
@@ -35,17 +39,32 @@ protected:
         // The other end stays open: a writer that was left behind would write to whatever gets its number next.
     }
 
+    /// What is there, and what comes while the event loop runs, up to `size`.
     std::string read(std::size_t size) const
     {
         std::string text(size, '\0');
         std::size_t length = 0;
         while (length < size) {
+            QCoreApplication::processEvents();
             const auto part = ::read(ends[0], text.data() + length, size - length);
             if (part <= 0)
                 break;
             length += static_cast<std::size_t>(part);
         }
         return text.substr(0, length);
+    }
+
+    /// Until nothing comes any more.
+    std::string readAll() const
+    {
+        std::string text;
+        for (int available = 0;;) {
+            QCoreApplication::processEvents();
+            ioctl(ends[0], FIONREAD, &available);
+            if (available == 0)
+                return text;
+            text += read(static_cast<std::size_t>(available));
+        }
     }
 
     void closeReadingEnd()
@@ -90,6 +109,30 @@ TEST_F(BackgroundOutputTest, APipeThatNobodyReadsHoldsUpNothing)
     EXPECT_EQ(read(text.size() + 1), text + "\n");
 }
 
+TEST_F(BackgroundOutputTest, ItNeedsNoThread)
+{
+    const auto threads = [] { return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {}); };
+    const auto before = threads();
+
+    stream << std::string(1 << 20, 'x') << std::endl;
+
+    EXPECT_EQ(threads(), before);
+}
+
+TEST_F(BackgroundOutputTest, WhatWaitsForAReaderIsBoundedAndMadeOfWholeLines)
+{
+    const std::string line = std::string(99'999, 'x') + '\n';
+    for (int i = 0; i < 100; ++i)
+        stream << line << std::flush;
+
+    const auto text = readAll();
+    EXPECT_EQ(text.size() % line.size(), 0);
+    EXPECT_GT(text.size(), 10 * line.size());
+    EXPECT_LT(text.size(), 15 * line.size());
+    stream << "more" << std::endl;
+    EXPECT_EQ(readAll(), "more\n");
+}
+
 TEST_F(BackgroundOutputTest, WhatIsWrittenLastStillComesOut)
 {
     stream << "last" << std::endl;
@@ -122,3 +165,10 @@ TEST_F(BackgroundOutputTest, AReaderThatIsGoneIsNoHarm)
 }
 
 } // namespace velto
+
+int main(int argc, char* argv[])
+{
+    testing::InitGoogleTest(&argc, argv);
+    const QCoreApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
