@@ -5,24 +5,16 @@
 
 #include <canberra.h>
 
-#include <chrono>
+#include <algorithm>
 #include <condition_variable>
 #include <deque>
 #include <mutex>
 #include <optional>
-#include <thread>
 #include <utility>
 
 namespace velto {
 
-using namespace std::chrono_literals;
-using Clock = std::chrono::steady_clock;
-
 namespace {
-
-/// Every sound starts this long after it is asked for, so that a row of them is even although the
-/// first has to find the server first.
-constexpr auto leadTime = 80ms;
 
 struct ContextDeleter {
     void operator()(ca_context* context) const { ca_context_destroy(context); }
@@ -62,8 +54,8 @@ public:
     void play(std::filesystem::path file)
     {
         const std::lock_guard lock(m_mutex);
-        std::erase_if(m_requests, isStale);
-        m_requests.push_back({std::move(file), Clock::now()});
+        if (std::ranges::find(m_waiting, file) == m_waiting.end())
+            m_waiting.push_back(std::move(file));
         m_changed.notify_all();
     }
 
@@ -77,49 +69,38 @@ public:
     void run()
     {
         Context context;
-        while (const auto request = next()) {
+        while (const auto file = next()) {
             // A server that went away is noticed only by trying, so the first failure is no verdict.
             for (int attempt = 0; attempt < 2; ++attempt) {
                 if (!context)
                     context = openContext();
                 if (!context)
                     break;
-                std::this_thread::sleep_until(request->time + leadTime);
-                const int result = start(context.get(), request->file);
+                const int result = start(context.get(), *file);
                 if (result == CA_SUCCESS)
                     break;
-                qCDebug(audioLog) << "sound" << request->file.c_str() << "not started:" << ca_strerror(result);
+                qCDebug(audioLog) << "sound" << file->c_str() << "not started:" << ca_strerror(result);
                 context.reset();
             }
         }
     }
 
 private:
-    struct Request {
-        std::filesystem::path file;
-        Clock::time_point time;
-    };
-
-    static bool isStale(const Request& request) { return Clock::now() - request.time > 500ms; }
-
     /// Waits for something to play. Absent when stopped.
-    std::optional<Request> next()
+    std::optional<std::filesystem::path> next()
     {
         std::unique_lock lock(m_mutex);
-        for (;;) {
-            m_changed.wait(lock, [this] { return m_stopped || !m_requests.empty(); });
-            if (m_stopped)
-                return std::nullopt;
-            auto request = std::move(m_requests.front());
-            m_requests.pop_front();
-            if (!isStale(request))
-                return request;
-        }
+        m_changed.wait(lock, [this] { return m_stopped || !m_waiting.empty(); });
+        if (m_stopped)
+            return std::nullopt;
+        auto file = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        return file;
     }
 
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::deque<Request> m_requests;
+    std::deque<std::filesystem::path> m_waiting;
     bool m_stopped = false;
 };
 

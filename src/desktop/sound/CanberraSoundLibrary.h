@@ -15,8 +15,8 @@ namespace velto {
 /// The alert sounds of a folder, one "<name>.wav" each, played through the desktop's sound server
 /// in the role of events.
 ///
-/// The server is not spoken to before the first sound, and then only from a thread of its own. A
-/// sound that could not be started within half a second is dropped: late, it would mean nothing.
+/// The server is not spoken to before the first sound, and then only from a thread of its own. A server that hangs
+/// gets what was asked for when it goes on, each sound once; without a server a sound is dropped.
 class CanberraSoundLibrary final : public SoundLibrary {
 public:
     /// Where the program's own sounds stand, seen from the folder of its executable.

@@ -164,6 +164,43 @@ TEST_F(CanberraSoundLibraryTest, AHangingSoundServerHoldsUpNobodyAndIsNotFlooded
     EXPECT_LT(server.list("sink-inputs").count("Sink Input #"), 4);
 }
 
+TEST_F(CanberraSoundLibraryTest, TheLastSoundIsHeardHoweverLongTheServerHangs)
+{
+    server.start();
+    Recording recording;
+    play("Tink");
+    ASSERT_TRUE(eventually([&] { return server.list("clients").contains("\"velto\""); }));
+
+    server.freeze();
+    play("Tink", 10);
+    play("Submarine");
+    QTest::qWait(1000);
+    server.thaw();
+
+    EXPECT_TRUE(eventually([&] { return recording.amplitude(inSubmarine, 50ms) > heard; }, 5s));
+}
+
+TEST_F(CanberraSoundLibraryTest, StartsASoundAtOnce)
+{
+    server.start();
+    play("Tink"); // From now on there is a connection.
+    ASSERT_TRUE(eventually([&] { return server.list("clients").contains("\"velto\""); }));
+
+    std::chrono::milliseconds shortest = 1h;
+    for (int i = 0; i < 5; ++i) {
+        QTest::qWait(200);
+        Recording recording;
+        const auto start = Clock::now();
+        play("Pop");
+        ASSERT_TRUE(eventually([&] { return !recording.isSilent(); }));
+        shortest
+            = std::min(shortest, std::chrono::duration_cast<std::chrono::milliseconds>(recording.firstSound() - start));
+    }
+
+    RecordProperty("milliseconds", static_cast<int>(shortest.count()));
+    EXPECT_LT(shortest, 60ms);
+}
+
 TEST_F(CanberraSoundLibraryTest, GoesAtOnceWhileTheSoundServerHangs)
 {
     server.start();

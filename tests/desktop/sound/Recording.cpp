@@ -43,6 +43,14 @@ double Recording::amplitude(double frequency, std::chrono::milliseconds length)
     return amplitudeOf(frequency, m_samples.data() + m_samples.size() - count, m_samples.data() + m_samples.size());
 }
 
+Recording::Clock::time_point Recording::firstSound()
+{
+    read();
+    const auto first
+        = std::find_if(m_samples.begin(), m_samples.end(), [](float sample) { return std::abs(sample) > audible; });
+    return timeOf(static_cast<std::size_t>(first - m_samples.begin()) + 1);
+}
+
 Recording::Clock::time_point Recording::lastSound()
 {
     read();

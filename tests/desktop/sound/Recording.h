@@ -26,6 +26,8 @@ public:
     [[nodiscard]] const std::vector<float>& samples();
     /// The amplitude of `frequency` during the last `length` of what was recorded; 0 before it is that long.
     [[nodiscard]] double amplitude(double frequency, std::chrono::milliseconds length = std::chrono::milliseconds(200));
+    /// When the first sound came to be heard.
+    [[nodiscard]] Clock::time_point firstSound();
     /// When the last sound so far came to be heard.
     [[nodiscard]] Clock::time_point lastSound();
     [[nodiscard]] bool isSilent();

@@ -30,8 +30,10 @@ class TheEndOfAPhase(unittest.TestCase):
         ticks, ends = find_all(alert_sound("Tink"), samples), find_all(glass, samples)
         self.assertEqual((len(ticks), len(ends)), (10, 1))
         self.assertEqual(find_all(alert_sound("Submarine"), samples), [])
-        heard = lateness(ticks + ends)
-        shown = lateness([when for when, _, _ in self.desktop.announcements[-11:]])
+        # The first one of all has to find the sound server.
+        self.assertLess(1 - (ticks[1] - ticks[0]), 0.2 + held_up.seconds)
+        heard = lateness(ticks[1:] + ends)
+        shown = lateness([when for when, _, _ in self.desktop.announcements[-10:]])
         print(f"heard {heard}, shown {shown}, held up for {held_up.seconds:.3f} s")
         self.assertLessEqual(max(map(abs, heard)), TOLERANCE + held_up.seconds)
 
