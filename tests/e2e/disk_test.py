@@ -63,6 +63,15 @@ class ABusyDisk(unittest.TestCase):
         self.assertEqual(velto.settings["breakMinutes"], 15)
         self.assertTrue(velto.settings["autoTransition"])
 
+    def test_the_last_write_is_waited_for_also_when_the_x_server_goes(self):
+        velto = self.start(sync_ms=1000)
+        velto.item.choose("Auto-Transition")
+
+        self.desktop.x_server.kill()
+
+        velto.wait()
+        self.assertTrue(velto.settings.get("autoTransition"))
+
 
 if __name__ == "__main__":
     unittest.main()

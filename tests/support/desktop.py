@@ -254,7 +254,7 @@ class VirtualDesktop:
     def _start_x_server(self):
         reader, writer = os.pipe()
         width, height = self.size
-        self._x_server = self.run(
+        self.x_server = self.run(
             "Xvfb", "-displayfd", str(writer), "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp", "-noreset",
             "-dpi", "96", "-fbdir", self.path("screen"), pass_fds=(writer,))
         os.close(writer)
@@ -422,7 +422,7 @@ class VirtualDesktop:
 
     def hindrance(self, *processes):
         """How much a busy machine holds up `processes` and what tells of them: the X server, the bus, its listener."""
-        return Hindrance([self._x_server, self._bus_daemon, self._listener, *processes])
+        return Hindrance([self.x_server, self._bus_daemon, self._listener, *processes])
 
     def move(self, x, y):
         self.ask("xdotool", "mousemove", str(x), str(y))
