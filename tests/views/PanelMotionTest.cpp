@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: MIT
+#include "views/PanelContainerViewFixture.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+namespace velto {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+class PanelMotionTest : public PanelContainerViewTest { };
+
+TEST_F(PanelMotionTest, TheArcGrowsEvenlyForAThirdOfASecondHoweverLongThePhase)
+{
+    for (const int minutes : {1, 25, 120}) {
+        build(minutes);
+        timer->start();
+        turn();
+        for (int tick = 0; tick < 3; ++tick) {
+            runLoop.advance(1s);
+            const auto& ring = child<CircularProgressView>();
+
+            EXPECT_NEAR(ring.drawnProgress() * minutes * 60, tick, 1e-6);
+            for (const double part : {0.2, 0.4, 0.6, 0.8, 1.0}) {
+                moveTo(static_cast<int>(part * 350));
+                EXPECT_NEAR(ring.drawnProgress() * minutes * 60, tick + part, 1e-6);
+            }
+            look();
+        }
+    }
+}
+
+TEST_F(PanelMotionTest, TheArcIsDrawnLongerOnEveryTickOfTheUsualPhase)
+{
+    build(25);
+    timer->start();
+    auto before = child<CircularProgressView>().grab().toImage();
+    for (int tick = 1; tick <= 60; ++tick) {
+        runLoop.advance(1s);
+        moveTo(Motion::usualDuration);
+
+        auto after = child<CircularProgressView>().grab().toImage();
+        EXPECT_NE(before, after) << tick;
+        before = std::move(after);
+    }
+}
+
+TEST_F(PanelMotionTest, DigitsThatChangeRollUpwardsAndTheOthersStandStill)
+{
+    build();
+    timer->start();
+    turn();
+    runLoop.advance(1s);
+    look();
+    moveTo(Motion::usualDuration);
+    const auto before = child<RollingTime>().glyphs();
+    ASSERT_EQ(before.size(), 5u);
+
+    runLoop.advance(1s);
+    double oldY = 0;
+    double newY = 1000;
+    for (int moment = 50; moment < Motion::usualDuration; moment += 50) {
+        moveTo(moment);
+        const auto glyphs = child<RollingTime>().glyphs();
+        ASSERT_EQ(glyphs.size(), 6u);
+        for (std::size_t i = 0; i < 4; ++i)
+            EXPECT_EQ(glyphs[i], before[i]);
+        EXPECT_EQ(glyphs[4].character, '9');
+        EXPECT_EQ(glyphs[5].character, '8');
+        EXPECT_LT(glyphs[4].center.y(), oldY);
+        EXPECT_LT(glyphs[5].center.y(), newY);
+        EXPECT_GT(glyphs[5].center.y(), 0);
+        EXPECT_EQ(glyphs[5].center.x(), before[4].center.x());
+        EXPECT_DOUBLE_EQ(glyphs[4].opacity + glyphs[5].opacity, 1);
+        oldY = glyphs[4].center.y();
+        newY = glyphs[5].center.y();
+    }
+
+    moveTo(Motion::usualDuration);
+    const auto after = child<RollingTime>().glyphs();
+    ASSERT_EQ(after.size(), 5u);
+    EXPECT_EQ(after[4], (RollingTime::Glyph{'8', {before[4].center.x(), 0}, 1}));
+}
+
+TEST_F(PanelMotionTest, EachDigitHasACellOfFixedWidth)
+{
+    build(1);
+    timer->start();
+    std::vector<double> columns;
+    for (const auto& glyph : child<RollingTime>().glyphs())
+        columns.push_back(glyph.center.x());
+
+    for (int second = 0; second < 60; ++second) {
+        runLoop.advance(1s);
+        moveTo(Motion::usualDuration);
+        const auto glyphs = child<RollingTime>().glyphs();
+        ASSERT_EQ(glyphs.size(), columns.size());
+        for (std::size_t i = 0; i < glyphs.size(); ++i)
+            EXPECT_EQ(glyphs[i].center.x(), columns[i]);
+    }
+}
+
+TEST_F(PanelMotionTest, EveryMotionLastsAThirdOfASecond)
+{
+    build();
+    const auto motions = view->findChildren<Motion*>();
+
+    EXPECT_EQ(motions.size(), 4);
+    for (const auto* motion : motions)
+        EXPECT_EQ(motion->duration(), 350);
+}
+
+TEST_F(PanelMotionTest, ANewPhaseFadesTheOldTitleOutWhileTheNewOneComesIn)
+{
+    build();
+    auto& title = child<PhaseTitle>();
+    timer->switchToPhase(PomodoroPhase::breakTime);
+    turn();
+    // Only the old title has a colour of its own; the new one is as dark as what is read.
+    const auto strengths = [&] {
+        const auto picture = title.grab().toImage();
+        int colour = 0;
+        int darkness = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const auto pixel = picture.pixelColor(x, y);
+                colour = std::max(colour, pixel.blue() - pixel.red());
+                darkness = std::max(darkness, 255 - pixel.blue());
+            }
+        }
+        return std::pair{colour, darkness};
+    };
+
+    auto [lastColour, lastDarkness] = strengths();
+    EXPECT_GT(lastColour, 100) << "The old title is whole at first.";
+    for (const int moment : {100, 175, 250, 350}) {
+        moveTo(moment);
+        const auto [colour, darkness] = strengths();
+        EXPECT_LT(colour, lastColour) << moment;
+        EXPECT_GT(darkness, lastDarkness) << moment;
+        EXPECT_EQ(colour > 10, moment < 300) << moment;
+        std::tie(lastColour, lastDarkness) = std::pair{colour, darkness};
+    }
+}
+
+TEST_F(PanelMotionTest, UnderReducedMotionEverythingJumps)
+{
+    QApplication::setEffectEnabled(Qt::UI_General, false);
+    build(1);
+    timer->start();
+    turn();
+    runLoop.advance(1s);
+
+    EXPECT_NEAR(child<CircularProgressView>().drawnProgress(), 1.0 / 60, 1e-9);
+    EXPECT_EQ(child<RollingTime>().glyphs().size(), 5u);
+    timer->switchToPhase(PomodoroPhase::breakTime);
+    turn();
+    for (const auto* motion : view->findChildren<Motion*>())
+        EXPECT_EQ(motion->state(), QAbstractAnimation::Stopped);
+}
+
+TEST_F(PanelMotionTest, WhileHiddenNothingIsReadOrMovedAndShowingIsCurrentAtOnce)
+{
+    build(1);
+    timer->start();
+    turn();
+    view->hide();
+    PaintCounter paints(*view);
+
+    timer->pause();
+    timer->start();
+    EXPECT_EQ(runLoop.waitingWorks(), 0u);
+    runLoop.advance(20s);
+    EXPECT_EQ(child<RollingTime>().spokenText(), "01:00");
+    EXPECT_TRUE(paints.counts.empty());
+
+    view->show();
+    EXPECT_EQ(child<RollingTime>().spokenText(), "00:40");
+    EXPECT_EQ(child<RollingTime>().glyphs().size(), 5u);
+    EXPECT_NEAR(child<CircularProgressView>().drawnProgress(), 20.0 / 60, 1e-9);
+}
+
+TEST_F(PanelMotionTest, HidingEndsWhatMoves)
+{
+    build(1);
+    timer->start();
+    turn();
+    runLoop.advance(1s);
+    moveTo(50);
+    ASSERT_EQ(child<RollingTime>().glyphs().size(), 8u);
+
+    view->hide();
+    EXPECT_EQ(child<RollingTime>().glyphs().size(), 5u);
+    EXPECT_NEAR(child<CircularProgressView>().drawnProgress(), 1.0 / 60, 1e-9);
+}
+
+// Economy
+
+TEST_F(PanelMotionTest, ManyChangesAreOneRefresh)
+{
+    build();
+    timer->start();
+    timer->pause();
+    timer->reset();
+    EXPECT_EQ(runLoop.waitingWorks(), 1u);
+
+    turn();
+    EXPECT_EQ(runLoop.waitingWorks(), 0u);
+}
+
+TEST_F(PanelMotionTest, WhatDidNotChangeIsNotPainted)
+{
+    build();
+    timer->start();
+    runLoop.advance(5s);
+    moveTo(Motion::usualDuration);
+    PaintCounter paints(*view);
+    // Everything asked for by now is painted together with the button.
+    const auto settle = [&](const QString& title) {
+        paints.counts.clear();
+        button(title)->update();
+        return QTest::qWaitFor([&] { return paints.counts[button(title)] > 0; }, 20'000);
+    };
+    ASSERT_TRUE(settle("Pause"));
+
+    timer->autoTransition.set(true);
+    turn();
+    ASSERT_TRUE(settle("Pause"));
+    EXPECT_EQ(paints.counts[&child<CircularProgressView>()], 0);
+    EXPECT_EQ(paints.counts[&child<RollingTime>()], 0);
+    EXPECT_EQ(paints.counts[&child<PhaseTitle>()], 0);
+    EXPECT_EQ(paints.counts[button("Reset")], 0);
+    EXPECT_EQ(paints.counts[label("velto")], 0);
+
+    // A tick paints the time and the ring, and neither the title nor the buttons nor the lines below.
+    runLoop.advance(1s);
+    ASSERT_TRUE(settle("Pause"));
+    EXPECT_GT(paints.counts[&child<CircularProgressView>()], 0);
+    EXPECT_GT(paints.counts[&child<RollingTime>()], 0);
+    EXPECT_EQ(paints.counts[&child<PhaseTitle>()], 0);
+    EXPECT_EQ(paints.counts[button("Reset")], 0);
+    EXPECT_EQ(paints.counts[label("velto")], 0);
+}
+
+} // namespace
+
+} // namespace velto
