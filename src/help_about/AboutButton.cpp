@@ -2,8 +2,8 @@
 #include "help_about/AboutButton.h"
 
 #include "help_about/AboutButtonStyle.h"
+#include "style/TextStyle.h"
 
-#include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -15,18 +15,12 @@ AboutButton::AboutButton(const QString& title)
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    onFontChange(*this, [this] { updateGeometry(); });
 }
 
 QSize AboutButton::sizeHint() const
 {
     return AboutButtonStyle::size(text());
-}
-
-bool AboutButton::event(QEvent* event)
-{
-    if (event->type() == QEvent::ApplicationFontChange)
-        updateGeometry();
-    return QAbstractButton::event(event);
 }
 
 void AboutButton::paintEvent(QPaintEvent*)

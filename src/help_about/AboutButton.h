@@ -13,7 +13,6 @@ public:
     explicit AboutButton(const QString& title);
 
     [[nodiscard]] QSize sizeHint() const override;
-    bool event(QEvent* event) override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

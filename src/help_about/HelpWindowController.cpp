@@ -4,21 +4,10 @@
 #include "platform/Application.h"
 #include "platform/KeyValueStore.h"
 
-#include <utility>
-
 namespace velto {
 
 namespace {
 constexpr auto launchedBeforeKey = "hasLaunchedBefore";
-}
-
-HelpWindowController::HelpWindowController(WindowFactory makeWindow) : m_makeWindow(std::move(makeWindow)) { }
-
-Window& HelpWindowController::panel()
-{
-    if (!m_panel)
-        m_panel = m_makeWindow();
-    return *m_panel;
 }
 
 void HelpWindowController::showWelcomeIfNeeded(

@@ -5,7 +5,6 @@
 #include "style/TextStyle.h"
 
 #include <QAccessible>
-#include <QEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -26,7 +25,7 @@ QFont titleFont()
 
 PhaseTitle::PhaseTitle()
 {
-    setFont(titleFont());
+    followFont(*this, titleFont);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(&m_fade, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
 }
@@ -51,13 +50,6 @@ void PhaseTitle::setTitle(const QString& title, ColorName color)
 QSize PhaseTitle::sizeHint() const
 {
     return {std::max(lineWidth(*this, m_title.text), lineWidth(*this, m_previous.text)), fontMetrics().height()};
-}
-
-bool PhaseTitle::event(QEvent* event)
-{
-    if (event->type() == QEvent::ApplicationFontChange)
-        setFont(titleFont());
-    return AnimatedView::event(event);
 }
 
 void PhaseTitle::paintEvent(QPaintEvent*)

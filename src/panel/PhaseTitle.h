@@ -20,7 +20,6 @@ public:
     [[nodiscard]] QString spokenText() const override { return m_title.text; }
 
     [[nodiscard]] QSize sizeHint() const override;
-    bool event(QEvent* event) override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

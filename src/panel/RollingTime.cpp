@@ -2,8 +2,8 @@
 #include "panel/RollingTime.h"
 
 #include "style/Colors.h"
+#include "style/TextStyle.h"
 
-#include <QEvent>
 #include <QLinearGradient>
 #include <QPainter>
 
@@ -35,6 +35,10 @@ QBrush fadingAtTheEdges(const QColor& color)
 RollingTime::RollingTime(int width)
 {
     setFixedSize(width, viewHeight);
+    onFontChange(*this, [this] {
+        m_glyphs = ClockGlyphs(m_fontSize);
+        update();
+    });
     connect(&m_roll, &QVariantAnimation::valueChanged, this, &RollingTime::redrawRolling);
 }
 
@@ -77,15 +81,6 @@ std::vector<RollingTime::Glyph> RollingTime::glyphs() const
         }
     }
     return result;
-}
-
-bool RollingTime::event(QEvent* event)
-{
-    if (event->type() == QEvent::ApplicationFontChange) {
-        m_glyphs = ClockGlyphs(m_fontSize);
-        update();
-    }
-    return AnimatedView::event(event);
 }
 
 void RollingTime::paintEvent(QPaintEvent*)

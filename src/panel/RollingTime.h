@@ -39,8 +39,6 @@ public:
     /// The sum of all cells, before anything is drawn smaller.
     [[nodiscard]] double textWidth() const;
 
-    bool event(QEvent* event) override;
-
 protected:
     void paintEvent(QPaintEvent* event) override;
 

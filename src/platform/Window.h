@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+#include <memory>
+#include <utility>
+
 namespace velto {
 
 /// A window that takes the focus when it is shown, and that closing only hides.
@@ -17,10 +21,22 @@ public:
 /// Owns one window.
 class WindowController {
 public:
+    using WindowFactory = std::function<std::unique_ptr<Window>()>;
+
+    explicit WindowController(WindowFactory makeWindow) : m_makeWindow(std::move(makeWindow)) { }
     virtual ~WindowController() = default;
 
     /// Created on first access, then kept.
-    virtual Window& panel() = 0;
+    Window& panel()
+    {
+        if (!m_panel)
+            m_panel = m_makeWindow();
+        return *m_panel;
+    }
+
+private:
+    WindowFactory m_makeWindow;
+    std::unique_ptr<Window> m_panel;
 };
 
 } // namespace velto

@@ -3,11 +3,10 @@
 
 #include "settings_form/EditableNumberField.h"
 #include "style/Button.h"
-#include "style/Colors.h"
-#include "style/ContinuousRect.h"
 #include "style/Divider.h"
+#include "style/Drawing.h"
 #include "style/PopUpPicker.h"
-#include "style/ScrollIndicator.h"
+#include "style/ScrollBar.h"
 #include "style/Slider.h"
 #include "style/Stack.h"
 #include "style/TextField.h"
@@ -15,7 +14,6 @@
 #include "style/ToggleSwitch.h"
 
 #include <QKeyEvent>
-#include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -27,7 +25,6 @@ namespace velto {
 
 namespace {
 
-constexpr double cornerRadius = 18;
 constexpr int padding = 16;
 constexpr int controlWidth = 300;
 constexpr int numberWidth = 50;
@@ -91,7 +88,7 @@ SettingsSheet::SettingsSheet(
         filling(section(tr("Behavior"), behavior())), filling(new Divider), filling(section(tr("Sounds"), sounds())),
         filling(new Divider), filling(section(tr("Music"), music())), spacer));
     auto* cancelButton = new Button(ButtonKind::bordered, tr("Cancel"));
-    auto* indicator = new ScrollIndicator;
+    auto* indicator = new ScrollBar(Qt::Vertical);
     // The same room on both sides keeps the page in the middle of the card.
     const int side = padding + indicator->sizeHint().width();
     sections->layout()->setContentsMargins(side, padding, padding, padding);
@@ -145,14 +142,7 @@ void SettingsSheet::closeEvent(QCloseEvent*)
 
 void SettingsSheet::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color(ColorName::windowBackground, *this));
-    painter.drawPath(continuousRoundedRect(rect(), cornerRadius));
-    painter.setPen(color(ColorName::cardOutline, *this));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawPath(continuousRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius - 0.5));
+    drawCard(*this);
 }
 
 void SettingsSheet::keyPressEvent(QKeyEvent* event)

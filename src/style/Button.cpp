@@ -5,7 +5,6 @@
 #include "style/Symbols.h"
 #include "style/TextStyle.h"
 
-#include <QEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -34,7 +33,7 @@ Button::Button(ButtonKind kind, const QString& title, const QString& symbol, Col
     m_symbol(symbol),
     m_tint(tint)
 {
-    setFont(titleFont());
+    followFont(*this, titleFont);
     setAttribute(Qt::WA_Hover);
 }
 
@@ -45,13 +44,6 @@ QSize Button::sizeHint() const
         return {std::max(side, static_cast<int>(std::ceil(contentWidth())) + 8), side};
     }
     return {static_cast<int>(std::ceil(contentWidth())) + 32, controlHeight(*this) + 2};
-}
-
-bool Button::event(QEvent* event)
-{
-    if (event->type() == QEvent::ApplicationFontChange)
-        setFont(titleFont());
-    return QPushButton::event(event);
 }
 
 void Button::paintEvent(QPaintEvent*)

@@ -27,7 +27,6 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
-    bool event(QEvent* event) override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

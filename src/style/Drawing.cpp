@@ -44,6 +44,22 @@ void drawBezel(QPainter& painter, const QRectF& rect, double radius, const QColo
     painter.drawPath(continuousRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5));
 }
 
+void drawCard(QWidget& widget)
+{
+    constexpr double radius = 18;
+    const QRectF rect = widget.rect();
+    QPainter painter(&widget);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color(ColorName::windowBackground, widget));
+    painter.drawPath(continuousRoundedRect(rect, radius));
+
+    // Inside the edge, where all of its width can be seen.
+    painter.setPen(QPen(color(ColorName::cardOutline, widget), 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPath(continuousRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5));
+}
+
 void drawLine(QPainter& painter, const QRectF& rect, Qt::Alignment horizontally, const QString& text)
 {
     const QFontMetricsF metrics(painter.font());

@@ -6,7 +6,6 @@
 #include "style/PickerList.h"
 #include "style/TextStyle.h"
 
-#include <QEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
@@ -35,7 +34,7 @@ void drawArrows(QPainter& painter, QPointF center)
 PopUpPicker::PopUpPicker(const QString& title)
 {
     setAccessibleDescription(title);
-    setFont(textFont(TextStyle::body));
+    followFont(*this, [] { return textFont(TextStyle::body); });
     setAttribute(Qt::WA_Hover);
     // As long as the screen allows, which the toolkit sees to.
     setMaxVisibleItems(std::numeric_limits<int>::max());
@@ -53,13 +52,6 @@ QSize PopUpPicker::sizeHint() const
 QSize PopUpPicker::minimumSizeHint() const
 {
     return {static_cast<int>(2 * textMargin + arrowsWidth), controlHeight(*this)};
-}
-
-bool PopUpPicker::event(QEvent* event)
-{
-    if (event->type() == QEvent::ApplicationFontChange)
-        setFont(textFont(TextStyle::body));
-    return QComboBox::event(event);
 }
 
 void PopUpPicker::paintEvent(QPaintEvent*)

@@ -16,7 +16,6 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
-    bool event(QEvent* event) override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

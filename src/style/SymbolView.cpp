@@ -3,7 +3,6 @@
 
 #include "style/Symbols.h"
 
-#include <QEvent>
 #include <QGuiApplication>
 #include <QPainter>
 
@@ -17,6 +16,7 @@ SymbolView::SymbolView(const QString& name, TextStyle style, ColorName color) :
     m_color(color)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    onFontChange(*this, [this] { updateGeometry(); });
 }
 
 QSize SymbolView::sizeHint() const
@@ -26,13 +26,6 @@ QSize SymbolView::sizeHint() const
     const int side
         = static_cast<int>(std::lround(pixelSize(m_style, textScale(QGuiApplication::font())) * sidePerTextSize));
     return {side, side};
-}
-
-bool SymbolView::event(QEvent* event)
-{
-    if (event->type() == QEvent::ApplicationFontChange)
-        updateGeometry();
-    return QWidget::event(event);
 }
 
 void SymbolView::paintEvent(QPaintEvent*)

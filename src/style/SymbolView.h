@@ -16,7 +16,6 @@ public:
     SymbolView(const QString& name, TextStyle style, ColorName color);
 
     [[nodiscard]] QSize sizeHint() const override;
-    bool event(QEvent* event) override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

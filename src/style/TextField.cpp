@@ -5,7 +5,6 @@
 #include "style/Drawing.h"
 #include "style/TextStyle.h"
 
-#include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -22,7 +21,7 @@ TextField::TextField(const QString& placeholder)
 {
     setPlaceholderText(placeholder);
     setAccessibleName(placeholder);
-    setFont(textFont(TextStyle::body));
+    followFont(*this, [] { return textFont(TextStyle::body); });
     setFrame(false);
     setTextMargins(textMargin, 0, textMargin, 0);
     auto clear = palette();
@@ -38,13 +37,6 @@ QSize TextField::sizeHint() const
 QSize TextField::minimumSizeHint() const
 {
     return {QLineEdit::minimumSizeHint().width(), controlHeight(*this)};
-}
-
-bool TextField::event(QEvent* event)
-{
-    if (event->type() == QEvent::ApplicationFontChange)
-        setFont(textFont(TextStyle::body));
-    return QLineEdit::event(event);
 }
 
 void TextField::paintEvent(QPaintEvent* event)

@@ -15,12 +15,13 @@ TextLabel::TextLabel(const QString& text, TextStyle style, ColorName color, QFon
 {
     setTextFormat(Qt::PlainText);
     applyStyle();
+    onFontChange(*this, [this] { applyStyle(); });
 }
 
 bool TextLabel::event(QEvent* event)
 {
     const bool isHandled = QLabel::event(event);
-    if (event->type() == QEvent::ApplicationFontChange || event->type() == QEvent::PaletteChange)
+    if (event->type() == QEvent::PaletteChange)
         applyStyle();
     return isHandled;
 }

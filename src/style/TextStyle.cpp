@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "style/TextStyle.h"
 
+#include <QEvent>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QStringList>
+#include <QWidget>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace velto {
 
@@ -23,6 +26,24 @@ QString roundedFamily()
             return QLatin1String(family);
     return {};
 }
+
+class FontFollower final : public QObject {
+public:
+    FontFollower(QWidget& widget, std::function<void()> answer) : QObject(&widget), m_answer(std::move(answer))
+    {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* /*widget*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::ApplicationFontChange)
+            m_answer();
+        return false;
+    }
+
+private:
+    std::function<void()> m_answer;
+};
 
 } // namespace
 
@@ -69,6 +90,17 @@ QFont clockFont(double pixels)
     font.setPixelSize(static_cast<int>(std::lround(pixels)));
     font.setWeight(QFont::DemiBold);
     return font;
+}
+
+void onFontChange(QWidget& widget, std::function<void()> answer)
+{
+    new FontFollower(widget, std::move(answer));
+}
+
+void followFont(QWidget& widget, QFont (*font)())
+{
+    widget.setFont(font());
+    onFontChange(widget, [&widget, font] { widget.setFont(font()); });
 }
 
 } // namespace velto

@@ -3,6 +3,10 @@
 
 #include <QFont>
 
+#include <functional>
+
+class QWidget;
+
 namespace velto {
 
 /// The text sizes of the program, named by what they are for.
@@ -21,5 +25,11 @@ enum class TextStyle { title, title2, headline, body, subheadline, footnote, cap
 /// Semibold digits in a rounded family where one is installed, else in the UI font.
 /// `pixels` is taken as it is: the clock does not grow with the text.
 [[nodiscard]] QFont clockFont(double pixels);
+
+/// Runs `answer` whenever the desktop's font changes, as long as `widget` lives.
+void onFontChange(QWidget& widget, std::function<void()> answer);
+
+/// Gives `widget` the font that `font` makes of the desktop's, now and whenever that changes.
+void followFont(QWidget& widget, QFont (*font)());
 
 } // namespace velto

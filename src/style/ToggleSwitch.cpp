@@ -6,7 +6,6 @@
 #include "style/Motion.h"
 #include "style/TextStyle.h"
 
-#include <QEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -24,7 +23,7 @@ constexpr int knobDuration = 180;
 
 ToggleSwitch::ToggleSwitch(const QString& title) : QCheckBox(title)
 {
-    setFont(textFont(TextStyle::body));
+    followFont(*this, [] { return textFont(TextStyle::body); });
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_knob.setDuration(knobDuration);
     m_knob.setEasingCurve(QEasingCurve::OutCubic);
@@ -39,13 +38,10 @@ QSize ToggleSwitch::sizeHint() const
     return {textWidth + trackSize.width(), std::max(trackSize.height(), fontMetrics().height()) + 2};
 }
 
-bool ToggleSwitch::event(QEvent* event)
+void ToggleSwitch::hideEvent(QHideEvent* event)
 {
-    if (event->type() == QEvent::ApplicationFontChange)
-        setFont(textFont(TextStyle::body));
-    else if (event->type() == QEvent::Hide)
-        m_knob.setCurrentTime(m_knob.duration());
-    return QCheckBox::event(event);
+    m_knob.setCurrentTime(m_knob.duration());
+    QCheckBox::hideEvent(event);
 }
 
 void ToggleSwitch::paintEvent(QPaintEvent*)
