@@ -2,6 +2,7 @@
 #include "stream/StreamPlayback.h"
 
 #include "stream/RequestRules.h"
+#include "stream/Sandbox.h"
 
 #include <gio/gio.h>
 #include <unistd.h>
@@ -55,8 +56,16 @@ bool isForbidden(GstElementFactory* factory)
     return gst_element_factory_get_uri_type(factory) == GST_URI_SRC && name != "souphttpsrc";
 }
 
-void initialise()
+} // namespace
+
+void StreamPlayback::initialise()
 {
+    std::signal(SIGALRM, onSilence);
+    expectSound(patienceAtFirst);
+    // Nothing of what is asked of the system leads to other programs of the session.
+    g_setenv("GIO_USE_VFS", "local", true);
+    g_setenv("GSETTINGS_BACKEND", "memory", true);
+
     GError* error = nullptr;
     if (!gst_init_check(nullptr, nullptr, &error))
         giveUp(error ? error->message : "no GStreamer");
@@ -72,13 +81,9 @@ void initialise()
             gst_registry_remove_feature(registry, GST_PLUGIN_FEATURE(item->data));
     }
     gst_plugin_feature_list_free(factories);
-
-    // As other TLS libraries have it: trust these authorities instead of the system's.
-    if (const char* authorities = g_getenv("SSL_CERT_FILE")) {
-        if (auto* database = g_tls_file_database_new(authorities, nullptr))
-            g_tls_backend_set_default_database(g_tls_backend_get_default(), G_TLS_DATABASE(database));
-    }
 }
+
+namespace {
 
 void onUnderrun(GstElement* queue, gpointer)
 {
@@ -87,6 +92,15 @@ void onUnderrun(GstElement* queue, gpointer)
 void onRunning(GstElement* queue, gpointer)
 {
     g_object_set(queue, "min-threshold-time", guint64{0}, nullptr);
+}
+
+/// As other TLS libraries have it: if a file of authorities is named, these instead of the system's.
+void trustAuthorities()
+{
+    if (const char* authorities = g_getenv("SSL_CERT_FILE")) {
+        if (auto* database = g_tls_file_database_new(authorities, nullptr))
+            g_tls_backend_set_default_database(g_tls_backend_get_default(), G_TLS_DATABASE(database));
+    }
 }
 
 GstElement* makeElement(const char* kind)
@@ -108,6 +122,9 @@ GstElement* makeOutput()
         "org.velto.Velto", "application.icon_name", G_TYPE_STRING, "org.velto.Velto", nullptr);
     g_object_set(output, "client-name", "velto", "stream-properties", properties, "sync", FALSE, nullptr);
     gst_structure_free(properties);
+    // Connects to the sound server.
+    if (gst_element_set_state(output, GST_STATE_READY) == GST_STATE_CHANGE_FAILURE)
+        giveUp("no sound server");
     return output;
 }
 
@@ -121,15 +138,14 @@ StreamPlayback::StreamPlayback(std::string url, const std::atomic<float>& volume
 
 void StreamPlayback::start()
 {
-    std::signal(SIGALRM, onSilence);
-    expectSound(patienceAtFirst);
-    initialise();
-
+    trustAuthorities();
     holdRequestsToTheFirst(giveUp);
 
     expectSound(patience);
+    auto* sink = makeSink();
+    leaveLocalSockets();
     auto* pipeline = makeElement("playbin");
-    g_object_set(pipeline, "uri", m_url.c_str(), "audio-sink", makeSink(), "flags", playAudio, nullptr);
+    g_object_set(pipeline, "uri", m_url.c_str(), "audio-sink", sink, "flags", playAudio, nullptr);
     g_signal_connect(pipeline, "source-setup", G_CALLBACK(onSourceSetup), nullptr);
     gst_bus_set_sync_handler(gst_element_get_bus(pipeline), onMessage, nullptr, nullptr);
     if (gst_element_set_state(pipeline, GST_STATE_PLAYING) == GST_STATE_CHANGE_FAILURE)

@@ -14,6 +14,9 @@ namespace velto {
 /// sound for too long, for whatever reason.
 class StreamPlayback {
 public:
+    /// Finds out which plug-ins there are, once and first: it may write files, and starts no thread.
+    static void initialise();
+
     /// `volume` is linear, 0 to 1, and may change at any time; it must outlive this.
     StreamPlayback(std::string url, const std::atomic<float>& volume);
 

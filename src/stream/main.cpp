@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "stream/Sandbox.h"
 #include "stream/StreamPlayback.h"
 #include "stream/WebAddress.h"
 
@@ -34,6 +35,9 @@ int main()
         std::cerr << "velto-stream: no web address on standard input" << std::endl;
         return EXIT_FAILURE;
     }
+
+    StreamPlayback::initialise();
+    enterSandbox();
 
     std::atomic<float> volume = 0;
     std::thread([&volume, url] { (new StreamPlayback(url, volume))->start(); }).detach();

@@ -116,6 +116,16 @@ class Connection:
             case "forbidden":
                 self.head()
                 self.pour(TONE)
+            case "tag":  # of 256 MiB
+                self.head()
+                self.stream.sendall(b"ID3\x04\0\0\x7f\x7f\x7f\x7f")
+                while True:
+                    self.stream.sendall(bytes(1 << 20))
+            case "endless.m3u8":
+                self.head(kind="application/vnd.apple.mpegurl")
+                self.stream.sendall(b"#EXTM3U\n#EXT-X-VERSION:3\n#EXT-X-TARGETDURATION:2\n")
+                while True:
+                    self.stream.sendall(b"#EXTINF:2,\nsegment/1\n" * 50000)
             case "silent":
                 self.wait()
             case "missing":
