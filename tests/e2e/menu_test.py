@@ -54,7 +54,7 @@ class TheMenu(unittest.TestCase):
         self.assertEqual(self.checked("Presets"), ["50m focus / 10m break"])
         self.assertEqual(self.checked("Focus Duration"), ["50 minutes"])
         self.assertEqual(self.checked("Break Duration"), ["10 minutes"])
-        self.assertEqual((self.velto.settings["focusMinutes"], self.velto.settings["breakMinutes"]), (50, 10))
+        wait_for(lambda: (self.velto.settings["focusMinutes"], self.velto.settings["breakMinutes"]) == (50, 10))
 
     def test_the_phase_can_be_chosen(self):
         self.velto.item.choose("Current Phase", "Break")
@@ -70,8 +70,8 @@ class TheMenu(unittest.TestCase):
 
         wait_for(lambda: self.checked("Focus Music") == ["Groove Salad"])
         self.assertEqual(self.checked("Break Music"), ["None"])
-        self.assertEqual(self.velto.settings["focusMusicPreset"], b'"Groove Salad"')
-        self.assertIs(self.velto.settings["enableFocusMusic"], True)
+        wait_for(lambda: self.velto.settings["focusMusicPreset"] == b'"Groove Salad"')
+        wait_for(lambda: self.velto.settings["enableFocusMusic"] is True)
 
     def test_a_right_click_opens_it_and_leaves_the_card_hidden(self):
         desktop.click_item()
