@@ -5,6 +5,7 @@
 #include "desktop/session/Appearance.h"
 #include "desktop/session/BackgroundOutput.h"
 #include "desktop/session/BuildBundle.h"
+#include "desktop/session/CommandLine.h"
 #include "desktop/session/EndSignals.h"
 #include "desktop/session/QtApplication.h"
 #include "desktop/session/QtCalendar.h"
@@ -129,9 +130,13 @@ int main(int argc, char* argv[])
 {
     // What is printed may be read by nobody any more.
     std::signal(SIGPIPE, SIG_IGN);
+    if (const auto status = velto::answerBeforeStart(argc, argv))
+        return *status;
     velto::preferX11();
 
     QApplication application(argc, argv);
+    if (const auto status = velto::refuseUnknown(QApplication::arguments()))
+        return *status;
     velto::setWindowClass(QStringLiteral("org.velto.Velto"));
     QApplication::setApplicationName(QStringLiteral("velto"));
     QApplication::setApplicationDisplayName(QStringLiteral("velto"));

@@ -3,6 +3,7 @@
 import os
 import signal
 import stat
+import subprocess
 import time
 import unittest
 
@@ -74,6 +75,48 @@ class TheProcess(unittest.TestCase):
 
                 self.assertLess(time.monotonic() - start, 1)
                 self.assertTrue(velto.settings["autoTransition"])
+
+    def run_alone(self, *arguments, **environment):
+        """What the program does with these arguments, and with these variables set, or unset where None."""
+        changed = desktop.environment | environment
+        return subprocess.run([desktop.program, *arguments], capture_output=True, text=True, timeout=20,
+                              env={name: value for name, value in changed.items() if value is not None})
+
+    def test_without_a_display_it_says_so_in_one_line(self):
+        for display in (None, ":977"):
+            with self.subTest(display=display):
+                result = self.run_alone(DISPLAY=display, QT_QPA_PLATFORM=None)
+
+                self.assertEqual((result.returncode, result.stdout), (1, ""))
+                self.assertRegex(result.stderr, r"\Avelto: there is no display.*\n\Z")
+
+    def test_it_answers_two_questions_also_without_a_display(self):
+        version = self.run_alone("--version", DISPLAY=None)
+        self.assertEqual((version.returncode, version.stderr), (0, ""))
+        self.assertRegex(version.stdout, r"\Avelto \d+\.\d+\.\d+\n\Z")
+
+        usage = self.run_alone("--help", DISPLAY=None)
+        self.assertEqual((usage.returncode, usage.stderr), (0, ""))
+        self.assertIn("Usage: velto\n", usage.stdout)
+
+    def test_it_refuses_arguments_that_nobody_knows(self):
+        for arguments in (["--colour"], ["25"], ["--version", "--help"]):
+            with self.subTest(arguments=arguments):
+                result = self.run_alone(*arguments)
+
+                self.assertEqual((result.returncode, result.stdout), (2, ""))
+                self.assertRegex(result.stderr, rf"\Avelto: unknown argument {arguments[0]} .*\n\Z")
+
+    def test_it_runs_without_x11_where_the_user_wants_it_to(self):
+        environment = desktop.environment | {"QT_QPA_PLATFORM": "offscreen"}
+        del environment["DISPLAY"]
+        velto = subprocess.Popen([desktop.program], env=environment)
+        self.addCleanup(velto.kill)
+
+        with self.assertRaises(subprocess.TimeoutExpired):
+            velto.wait(2)  # the card shows itself meanwhile
+        velto.send_signal(signal.SIGTERM)
+        self.assertEqual(velto.wait(5), 0)
 
     def test_settings_outlive_every_end(self):
         for chosen_signal in (signal.SIGTERM, signal.SIGKILL, signal.SIGINT):

@@ -106,7 +106,7 @@ bool XInputEventMonitor::connect()
     if (m_display)
         return true;
     const auto* native = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!native)
+    if (!native || !native->display())
         return false;
     std::unique_ptr<_XDisplay, CloseDisplay> display{XOpenDisplay(DisplayString(native->display()))};
     int firstEvent = 0;

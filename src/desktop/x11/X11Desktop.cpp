@@ -51,6 +51,13 @@ xcb_timestamp_t serverTime()
 
 } // namespace
 
+bool serverAnswers()
+{
+    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> server(
+        xcb_connect(nullptr, nullptr), xcb_disconnect);
+    return xcb_connection_has_error(server.get()) == 0;
+}
+
 xcb_connection_t* connection()
 {
     const auto* native = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;

@@ -14,6 +14,8 @@
 /// Questions to the X server over the application's own connection. Each is a round trip.
 namespace velto::x11 {
 
+/// Whether there is a server to connect to. Needs no application.
+[[nodiscard]] bool serverAnswers();
 /// Null when the application does not run on X11; then nothing else here may be called but what says so.
 [[nodiscard]] xcb_connection_t* connection();
 [[nodiscard]] xcb_window_t rootWindow();
