@@ -30,15 +30,16 @@ class ABusyDisk(unittest.TestCase):
         velto.press("Start")
         wait_for(lambda: len(self.desktop.announcements) > 1, what="the countdown")
 
-        velto.item.choose("Auto-Transition")
-        self.assertFalse(velto.settings.get("autoTransition"))
-        velto.item.choose("Focus Music", "None")
-        wait_for(lambda: len(self.desktop.announcements) > 15, what="fifteen seconds")
+        with self.desktop.hindrance(velto.process) as held_up:
+            velto.item.choose("Auto-Transition")
+            self.assertFalse(velto.settings.get("autoTransition"))
+            velto.item.choose("Focus Music", "None")
+            wait_for(lambda: len(self.desktop.announcements) > 15, what="fifteen seconds")
 
         times = [when for when, _, _ in self.desktop.announcements]
         gaps = [later - earlier for earlier, later in zip(times, times[1:])]
         print(f"the longest tick: {max(gaps):.3f} s")
-        self.assertLess(max(gaps), 1.05)
+        self.assertLess(max(gaps), 1.05 + held_up.seconds)
 
     def test_quit_waits_five_seconds_for_it_and_says_so(self):
         velto = self.start(sync_ms=60_000)

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 #include <xcb/xfixes.h>
 
@@ -112,8 +113,10 @@ void FloatingWindow::takeKeyboard()
 void FloatingWindow::setVisible(bool visible)
 {
     // A window manager forgets what a hidden window was.
-    if (visible && !isVisible() && x11::connection())
+    if (visible && !isVisible() && x11::connection()) {
+        m_moves = 0;
         announceState();
+    }
     if (!visible)
         m_focus == Focus::taken ? leaveFocusToParent() : setAcceptsFocus(false);
     QWidget::setVisible(visible);
@@ -128,6 +131,8 @@ bool FloatingWindow::nativeEventFilter(const QByteArray& /*eventType*/, void* me
     else if (type == XCB_MAP_NOTIFY
         && static_cast<const xcb_map_notify_event_t*>(message)->window == static_cast<xcb_window_t>(winId()))
         demandState();
+    else if (type == XCB_PROPERTY_NOTIFY)
+        followWorkspace(*static_cast<const xcb_property_notify_event_t*>(message));
     return false;
 }
 
@@ -293,6 +298,19 @@ void FloatingWindow::demandState()
     x11::request(self, "_NET_WM_STATE",
         {add, x11::atom("_NET_WM_STATE_SKIP_TASKBAR"), x11::atom("_NET_WM_STATE_SKIP_PAGER"), asApplication});
     x11::request(self, "_NET_WM_DESKTOP", {everyWorkspace, asApplication});
+}
+
+/// A window manager that clears up late takes the new showing for one of an ordinary window and puts it on one
+/// workspace. One that insists has its way.
+void FloatingWindow::followWorkspace(const xcb_property_notify_event_t& change)
+{
+    constexpr int mostMoves = 10;
+    const auto self = static_cast<xcb_window_t>(winId());
+    static const auto workspace = x11::atom("_NET_WM_DESKTOP");
+    if (change.window != self || change.atom != workspace || change.state != XCB_PROPERTY_NEW_VALUE || !isVisible())
+        return;
+    if (x11::property(self, workspace) != std::vector{everyWorkspace} && ++m_moves <= mostMoves)
+        demandState();
 }
 
 void FloatingWindow::watchCompositing()

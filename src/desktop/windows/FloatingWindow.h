@@ -69,6 +69,7 @@ private:
     void leaveFocusToParent();
     void announceState();
     void demandState();
+    void followWorkspace(const xcb_property_notify_event_t& change);
     void watchCompositing();
     void followCompositing();
     void followShape();
@@ -80,6 +81,7 @@ private:
     bool m_acceptsFocus = false;
     bool m_isComposited = true;
     int m_selectionEvent = -1;
+    int m_moves = 0; ///< To one workspace, by others, since it was shown.
     xcb_window_t m_previouslyFocused = XCB_WINDOW_NONE;
 };
 

@@ -193,6 +193,21 @@ TEST_F(QtPanelWindowTest, HiddenAndShownInOneGoItIsStillOnEveryWorkspace)
     }
 }
 
+TEST_F(QtPanelWindowTest, PutOnOneWorkspaceItGoesBackToAll)
+{
+    Desktop::current().startWindowManager();
+    show();
+    ASSERT_TRUE(eventually([&] { return isOnEveryWorkspace(); }));
+
+    x11::request(id(), "_NET_WM_DESKTOP", {0, 2});
+    // The window manager has done that, and what came of it, once it has done this.
+    OtherWindow later{{100, 100, 300, 200}};
+    later.show();
+    ASSERT_TRUE(getsKeyboard(later));
+
+    EXPECT_TRUE(eventually([&] { return stays([&] { return isOnEveryWorkspace(); }); }));
+}
+
 TEST_F(QtPanelWindowTest, ItLiesAboveFullScreenWindows)
 {
     Desktop::current().startWindowManager();
