@@ -3,11 +3,11 @@
 
 #include "desktop/menus/AccessibleApplication.h"
 #include "desktop/menus/MenuText.h"
+#include "desktop/x11/Pixels.h"
 #include "desktop/x11/X11Desktop.h"
 #include "style/Symbols.h"
 
 #include <QAction>
-#include <QGuiApplication>
 #include <QMenu>
 #include <QScreen>
 
@@ -34,9 +34,7 @@ void apply(QAction& action, const MenuItem& item)
 
 QPoint placeMenu(const QSize& size, const QRect& anchor)
 {
-    const auto* screen = QGuiApplication::screenAt(anchor.center());
-    if (!screen)
-        screen = QGuiApplication::primaryScreen();
+    const auto* screen = screenAt(anchor.center());
     const auto usable = screen ? screen->availableGeometry() : QRect(QPoint(), size);
     const int below = anchor.bottom() + 1;
     const int y = below + size.height() <= usable.bottom() + 1 ? below : anchor.top() - size.height();

@@ -11,6 +11,7 @@
 #include "desktop/status_item/StripWindow.h"
 #include "desktop/status_item/X11Pointer.h"
 #include "desktop/windows/FlippedGeometry.h"
+#include "desktop/x11/Pixels.h"
 #include "style/TextStyle.h"
 
 #include <QApplication>
@@ -237,7 +238,7 @@ void DesktopStatusItem::clickedInBar(ClickEvent::Kind kind, QPoint claimed)
 {
     const auto surroundings = clickSurroundings(claimed);
     if (const auto found = statusAnchor(surroundings.place))
-        m_lastAnchor = toLogical(*found).toAlignedRect();
+        m_lastAnchor = toPoints(*found).toAlignedRect();
     clicked({kind, surroundings.controlIsHeld});
 }
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/status_item/X11Pointer.h"
 
-#include <QGuiApplication>
+#include "desktop/x11/Pixels.h"
+
 #include <QScreen>
 
 #include <algorithm>
@@ -17,27 +18,10 @@ bool isDock(xcb_window_t window)
     return std::ranges::count(x11::property(window, type), dock) > 0;
 }
 
-/// The pixels of `area`, a part of `screen` in points. The toolkit leaves a screen's origin where it is and scales from
-/// there.
-QRect toPixels(const QRect& area, const QScreen& screen)
-{
-    const QPointF origin = screen.geometry().topLeft();
-    const double factor = screen.devicePixelRatio();
-    return QRectF(origin + (area.topLeft() - origin) * factor, QSizeF(area.size()) * factor).toRect();
-}
-
-const QScreen* screenAt(QPoint pixel)
-{
-    for (const auto* screen : QGuiApplication::screens())
-        if (toPixels(screen->geometry(), *screen).contains(pixel))
-            return screen;
-    return QGuiApplication::primaryScreen();
-}
-
 /// The strip along an edge of the screen that is kept free of windows.
 std::optional<QRect> edgeStripAt(QPoint position)
 {
-    const auto* screen = screenAt(position);
+    const auto* screen = screenAtPixel(position);
     if (!screen)
         return std::nullopt;
     const auto all = toPixels(screen->geometry(), *screen);
@@ -72,16 +56,6 @@ ClickSurroundings clickSurroundings(QPoint claimed)
     result.place.pointer = QPoint(pointer.x, pointer.y);
     result.place.bar = barAt(pointer);
     return result;
-}
-
-QRectF toLogical(const QRect& pixels)
-{
-    const auto* screen = screenAt(pixels.center());
-    if (!screen)
-        return pixels;
-    const double factor = screen->devicePixelRatio();
-    const QPointF origin = screen->geometry().topLeft();
-    return {origin + (pixels.topLeft() - origin) / factor, QSizeF(pixels.size()) / factor};
 }
 
 } // namespace velto

@@ -4,8 +4,6 @@
 #include "desktop/status_item/StatusAnchor.h"
 #include "desktop/x11/X11Desktop.h"
 
-#include <QRectF>
-
 namespace velto {
 
 /// The panel bar under the pointer, in pixels: a dock window, or the edge of the screen that is kept free of windows,
@@ -20,9 +18,5 @@ struct ClickSurroundings {
 
 /// `claimed` is what the host says of the place. On a display that is no X server, that is all there is.
 [[nodiscard]] ClickSurroundings clickSurroundings(QPoint claimed);
-
-/// A rectangle of the X screen in the toolkit's coordinates. The screen is the one that holds its centre,
-/// else the main one.
-[[nodiscard]] QRectF toLogical(const QRect& pixels);
 
 } // namespace velto

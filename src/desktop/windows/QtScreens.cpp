@@ -2,6 +2,7 @@
 #include "desktop/windows/QtScreens.h"
 
 #include "desktop/windows/FlippedGeometry.h"
+#include "desktop/x11/Pixels.h"
 #include "desktop/x11/X11Desktop.h"
 
 #include <QGuiApplication>
@@ -75,10 +76,7 @@ QRectF usableArea(const QScreen& screen)
     if (!x11::connection())
         return available;
 
-    // Qt leaves a screen's origin in pixels and scales its size.
-    const double scale = screen.devicePixelRatio();
-    const QPoint origin = screen.geometry().topLeft();
-    const QRect pixels{origin, (QSizeF{screen.geometry().size()} * scale).toSize()};
+    const QRect pixels = toPixels(screen.geometry(), screen);
     const Struts struts = currentStruts();
     QRect free = pixels;
     for (const Strut& strut : struts.all) {
@@ -89,8 +87,7 @@ QRectF usableArea(const QScreen& screen)
         if (const QRect narrowed = free & rest; !narrowed.isEmpty())
             free = narrowed;
     }
-    const QRectF points{QPointF{origin} + QPointF{free.topLeft() - origin} / scale, QSizeF{free.size()} / scale};
-    return points & QRectF{available};
+    return toPoints(free) & QRectF{available};
 }
 
 Screen describe(const QScreen& screen)

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QRect>
+#include <QRectF>
+
+class QScreen;
+
+namespace velto {
+
+// Between Qt's points and the pixels of the X screen. Qt leaves a screen's origin where it is and scales from there.
+
+/// The screen that holds `point`, else the main one. Null when there is none.
+[[nodiscard]] const QScreen* screenAt(QPoint point);
+[[nodiscard]] const QScreen* screenAtPixel(QPoint pixel);
+
+/// The pixels of `area`, a part of `screen` in points.
+[[nodiscard]] QRect toPixels(const QRect& area, const QScreen& screen);
+
+/// A rectangle of pixels in points of the screen at its centre.
+[[nodiscard]] QRectF toPoints(const QRect& pixels);
+
+} // namespace velto
