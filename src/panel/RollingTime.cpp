@@ -36,7 +36,7 @@ RollingTime::RollingTime(int width)
 {
     setFixedSize(width, viewHeight);
     onFontChange(*this, [this] {
-        m_glyphs = ClockGlyphs(m_fontSize);
+        m_glyphs = ClockGlyphs(clockFont(m_fontSize));
         update();
     });
     connect(&m_roll, &QVariantAnimation::valueChanged, this, &RollingTime::redrawRolling);
@@ -51,7 +51,7 @@ void RollingTime::setTime(const QString& text, double fontSize)
     m_text = text;
     if (fontSize != m_fontSize) {
         m_fontSize = fontSize;
-        m_glyphs = ClockGlyphs(fontSize);
+        m_glyphs = ClockGlyphs(clockFont(fontSize));
     }
     if (isSameShape) {
         run(m_roll);
@@ -97,14 +97,6 @@ void RollingTime::paintEvent(QPaintEvent*)
         painter.setOpacity(glyph.opacity);
         painter.drawPath(m_glyphs.outline(glyph.character).translated(glyph.center));
     }
-}
-
-double RollingTime::textWidth() const
-{
-    double width = 0;
-    for (const auto character : m_text)
-        width += m_glyphs.cellWidth(character);
-    return width;
 }
 
 double RollingTime::scale() const

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "panel/ClockGlyphs.h"
 #include "style/AnimatedView.h"
+#include "style/ClockGlyphs.h"
 #include "style/Motion.h"
+#include "style/TextStyle.h"
 
 #include <QPointF>
 #include <QString>
@@ -37,7 +38,7 @@ public:
     /// All that is drawn just now.
     [[nodiscard]] std::vector<Glyph> glyphs() const;
     /// The sum of all cells, before anything is drawn smaller.
-    [[nodiscard]] double textWidth() const;
+    [[nodiscard]] double textWidth() const { return m_glyphs.width(m_text); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -50,7 +51,7 @@ private:
     QString m_text;
     QString m_previous; ///< As long as `m_text`, or empty when nothing rolls.
     double m_fontSize = 64;
-    ClockGlyphs m_glyphs{m_fontSize};
+    ClockGlyphs m_glyphs{clockFont(m_fontSize)};
     Motion m_roll{QEasingCurve::InOutCubic, this};
 };
 

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "panel/ClockGlyphs.h"
-
-#include "style/TextStyle.h"
+#include "style/ClockGlyphs.h"
 
 #include <QFont>
 #include <QString>
@@ -17,19 +15,19 @@ constexpr double gapPerSize = 0.09;
 
 } // namespace
 
-ClockGlyphs::ClockGlyphs(double fontSize) : m_gap(gapPerSize * fontSize)
+ClockGlyphs::ClockGlyphs(const QFont& font) : m_gap(gapPerSize * font.pixelSize())
 {
-    const auto font = clockFont(fontSize);
     const auto outlineOf = [&font](QChar character) {
         QPainterPath outline;
         outline.addText({}, font, character);
         return outline;
     };
-    const double digitMiddle = outlineOf(u'0').boundingRect().center().y();
+    const auto zero = outlineOf(u'0').boundingRect();
+    m_digitHeight = zero.height();
     for (const QChar character : QStringLiteral("0123456789:-")) {
         auto outline = outlineOf(character);
         const auto ink = outline.boundingRect();
-        outline.translate(-ink.center().x(), character.isDigit() ? -digitMiddle : -ink.center().y());
+        outline.translate(-ink.center().x(), character.isDigit() ? -zero.center().y() : -ink.center().y());
         m_outlines[character] = outline;
         if (character.isDigit())
             m_digitWidth = std::max(m_digitWidth, ink.width());
@@ -40,6 +38,26 @@ double ClockGlyphs::cellWidth(QChar character) const
 {
     // What is no digit stands in air on both sides.
     return character.isDigit() ? m_digitWidth + m_gap : outline(character).boundingRect().width() + 2 * m_gap;
+}
+
+double ClockGlyphs::width(const QString& text) const
+{
+    double width = 0;
+    for (const auto character : text)
+        width += cellWidth(character);
+    return width;
+}
+
+QPainterPath ClockGlyphs::outline(const QString& text) const
+{
+    QPainterPath result;
+    double x = 0;
+    for (const auto character : text) {
+        const double cell = cellWidth(character);
+        result.addPath(outline(character).translated(x + cell / 2, 0));
+        x += cell;
+    }
+    return result;
 }
 
 } // namespace velto

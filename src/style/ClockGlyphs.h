@@ -6,20 +6,30 @@
 
 #include <map>
 
+class QFont;
+class QString;
+
 namespace velto {
 
-/// The characters of a time at one font size, measured once.
+/// The characters of a time in one font, measured once. Every digit has a cell of the same width, so that nothing
+/// moves while they change.
 class ClockGlyphs {
 public:
-    explicit ClockGlyphs(double fontSize);
+    /// `font` has its size in pixels.
+    explicit ClockGlyphs(const QFont& font);
 
-    /// The same for every digit.
     [[nodiscard]] double cellWidth(QChar character) const;
+    [[nodiscard]] double width(const QString& text) const;
+    [[nodiscard]] double digitHeight() const { return m_digitHeight; }
+
     /// Centred about the origin: digits on a common base line, others each by what is seen of them.
     [[nodiscard]] const QPainterPath& outline(QChar character) const { return m_outlines.at(character); }
+    /// From x = 0 on, the digits' middle at y = 0.
+    [[nodiscard]] QPainterPath outline(const QString& text) const;
 
 private:
     double m_digitWidth = 0;
+    double m_digitHeight;
     double m_gap;
     std::map<QChar, QPainterPath> m_outlines;
 };

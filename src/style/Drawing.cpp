@@ -44,9 +44,8 @@ void drawBezel(QPainter& painter, const QRectF& rect, double radius, const QColo
     painter.drawPath(continuousRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5));
 }
 
-void drawCard(QWidget& widget)
+void drawCard(QWidget& widget, double radius, ColorName outline)
 {
-    constexpr double radius = 18;
     const QRectF rect = widget.rect();
     QPainter painter(&widget);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -55,7 +54,7 @@ void drawCard(QWidget& widget)
     painter.drawPath(continuousRoundedRect(rect, radius));
 
     // Inside the edge, where all of its width can be seen.
-    painter.setPen(QPen(color(ColorName::cardOutline, widget), 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    painter.setPen(QPen(color(outline, widget), 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(continuousRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5));
 }

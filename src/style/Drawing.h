@@ -30,7 +30,8 @@ void drawFocusRing(QPainter& painter, const QRectF& rect, double radius, const Q
 void drawBezel(QPainter& painter, const QRectF& rect, double radius, const QColor& face, const QColor& outline = {});
 
 /// A card as large as `widget`: the window's background in continuous corners, with an outline inside the edge.
-void drawCard(QWidget& widget);
+void drawCard(QWidget& widget, double radius = 18, ColorName outline = ColorName::cardOutline);
+
 /// One line whose capital letters stand in the vertical middle of `rect`; too long a line ends in dots.
 void drawLine(QPainter& painter, const QRectF& rect, Qt::Alignment horizontally, const QString& text);
 

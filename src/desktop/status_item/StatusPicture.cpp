@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/status_item/StatusPicture.h"
 
-#include <QFontMetricsF>
+#include "style/ClockGlyphs.h"
+
+#include <QFont>
 #include <QPainter>
 #include <QPainterPath>
 #include <QString>
@@ -35,38 +37,11 @@ void paint(QImage& image, const QPainterPath& path, const StatusPictureInk& ink)
 /// How much wider than drawn by the font a digit may get to fill its cell.
 constexpr double widest = 1.12;
 
-/// What a digit covers, relative to the start of its baseline.
-QRectF digitBounds(const QFont& font)
-{
-    QPainterPath path;
-    path.addText(0, 0, font, QStringLiteral("0"));
-    return path.boundingRect();
-}
-
-QFont inkFont(QFont font, double pixels)
+ClockGlyphs glyphsOf(QFont font, double pixels)
 {
     font.setPixelSize(static_cast<int>(std::lround(pixels)));
     font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
-}
-
-/// The text from (0, 0) on, baseline at 0, each digit in the middle of a cell of one width.
-QPainterPath textPath(const QString& text, const QFont& font, double& advance)
-{
-    const QFontMetricsF metrics(font);
-    double cell = 0;
-    for (char digit = '0'; digit <= '9'; ++digit)
-        cell = std::max(cell, metrics.horizontalAdvance(QLatin1Char(digit)));
-
-    QPainterPath path;
-    advance = 0;
-    for (const auto character : text) {
-        const double own = metrics.horizontalAdvance(character);
-        const double width = character.isDigit() ? cell : own;
-        path.addText(advance + (width - own) / 2, 0, font, QString(character));
-        advance += width;
-    }
-    return path;
+    return ClockGlyphs(font);
 }
 
 } // namespace
@@ -84,37 +59,32 @@ StatusPictureInk statusPictureInk(bool onDark, bool appearsDisabled)
 QImage wideStatusPicture(const QString& text, const QFont& font, int height, const StatusPictureInk& ink)
 {
     // A line of text in a bar takes about two thirds of its height.
-    const auto sized = inkFont(font, height * 2.0 / 3);
-    double advance = 0;
-    auto path = textPath(text, sized, advance);
+    const auto glyphs = glyphsOf(font, height * 2.0 / 3);
     const double margin = height / 16.0;
-    auto image = transparentImage(static_cast<int>(std::ceil(advance + 2 * margin)), height);
-    path.translate(margin, height / 2.0 - digitBounds(sized).center().y());
-    paint(image, path, ink);
+    auto image = transparentImage(static_cast<int>(std::ceil(glyphs.width(text) + 2 * margin)), height);
+    paint(image, glyphs.outline(text).translated(margin, height / 2.0), ink);
     return image;
 }
 
 QImage squareStatusPicture(const QString& text, const QFont& font, int height, const StatusPictureInk& ink)
 {
     auto image = transparentImage(height, height);
-    const auto sized = inkFont(font, height);
-    const auto digit = digitBounds(sized);
+    const auto glyphs = glyphsOf(font, height);
     const double margin = height / 24.0;
     const double gap = height / 10.0;
     const double lineHeight = (height - 2 * margin - gap) / 2;
 
     QPainterPath lines;
-    double bottom = margin + lineHeight;
-    const double scaleY = lineHeight / digit.height();
+    double middle = margin + lineHeight / 2;
+    const double scaleY = lineHeight / glyphs.digitHeight();
     for (const auto& part : text.split(QLatin1Char(':'))) {
-        double advance = 0;
-        const auto path = textPath(part, sized, advance);
-        const double scaleX = std::min(scaleY * widest, (height - 2 * margin) / advance);
+        const double width = glyphs.width(part);
+        const double scaleX = std::min(scaleY * widest, (height - 2 * margin) / width);
         QTransform place;
-        place.translate((height - advance * scaleX) / 2, bottom - digit.bottom() * scaleY);
+        place.translate((height - width * scaleX) / 2, middle);
         place.scale(scaleX, scaleY);
-        lines.addPath(place.map(path));
-        bottom += lineHeight + gap;
+        lines.addPath(place.map(glyphs.outline(part)));
+        middle += lineHeight + gap;
     }
     paint(image, lines, ink);
     return image;

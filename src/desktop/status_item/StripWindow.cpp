@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/status_item/StripWindow.h"
 
+#include "style/ClockGlyphs.h"
 #include "style/Colors.h"
-#include "style/ContinuousRect.h"
+#include "style/Drawing.h"
 
 #include <QAccessibleWidget>
 #include <QFontMetricsF>
@@ -11,7 +12,6 @@
 #include <QPainter>
 #include <QScreen>
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -23,13 +23,14 @@ constexpr int distanceFromEdge = 6;
 constexpr int sidePadding = 12;
 constexpr int linePadding = 6;
 constexpr double radius = 8;
+constexpr auto edge = ColorName::controlOutline;
 
 } // namespace
 
 /// What is seen of the strip, and clicked.
 class StripWindow::Face final : public QWidget {
 public:
-    explicit Face(ClickHandler onClick) : m_onClick(std::move(onClick)), m_font(font())
+    explicit Face(ClickHandler onClick) : m_onClick(std::move(onClick))
     {
         QAccessible::installFactory(makeAccessible);
         setContextMenuPolicy(Qt::PreventContextMenu);
@@ -45,7 +46,8 @@ public:
 
     void setTextFont(const QFont& font)
     {
-        m_font = font;
+        setFont(font);
+        m_glyphs = ClockGlyphs(font);
         update();
     }
 
@@ -59,32 +61,22 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override
     {
-        double width = 0;
-        for (const auto character : m_text)
-            width += cell(character);
-        const double height = std::ceil(QFontMetricsF(m_font).height());
-        return {static_cast<int>(std::ceil(width)) + 2 * sidePadding, static_cast<int>(height) + 2 * linePadding};
+        const auto width = static_cast<int>(std::ceil(m_glyphs.width(m_text)));
+        const auto height = static_cast<int>(std::ceil(QFontMetricsF(font()).height()));
+        return {width + 2 * sidePadding, height + 2 * linePadding};
     }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillPath(continuousRoundedRect(rect(), radius), color(ColorName::controlOutline, *this));
-        painter.fillPath(continuousRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius - 1),
-            color(ColorName::windowBackground, *this));
-
+        drawCard(*this, radius, edge);
         auto ink = color(ColorName::label, *this);
         if (m_appearsDisabled)
             ink.setAlphaF(0.5F);
-        painter.setPen(ink);
-        painter.setFont(m_font);
-        double x = sidePadding;
-        for (const auto character : m_text) {
-            painter.drawText(QRectF(x, 0, cell(character), height()), Qt::AlignCenter, QString(character));
-            x += cell(character);
-        }
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(sidePadding, height() / 2.0);
+        painter.fillPath(m_glyphs.outline(m_text), ink);
     }
 
     void mousePressEvent(QMouseEvent* event) override { event->accept(); }
@@ -134,21 +126,9 @@ private:
         return face ? new Accessible(face) : nullptr;
     }
 
-    /// Digits are all given the same room, so that nothing moves while they change.
-    [[nodiscard]] double cell(QChar character) const
-    {
-        const QFontMetricsF metrics(m_font);
-        if (!character.isDigit())
-            return metrics.horizontalAdvance(character);
-        double width = 0;
-        for (char digit = '0'; digit <= '9'; ++digit)
-            width = std::max(width, metrics.horizontalAdvance(QLatin1Char(digit)));
-        return std::ceil(width);
-    }
-
     ClickHandler m_onClick;
     QString m_text;
-    QFont m_font;
+    ClockGlyphs m_glyphs{font()};
     bool m_appearsDisabled = false;
 };
 
@@ -159,7 +139,7 @@ StripWindow::StripWindow(Face* face) :
         std::unique_ptr<QWidget>(face), [] {}, Focus::leftAlone),
     m_face(face)
 {
-    setCorners(radius, ColorName::controlOutline);
+    setCorners(radius, edge);
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &StripWindow::followScreen);
     followScreen();
 }
