@@ -1,42 +1,18 @@
 # SPDX-License-Identifier: MIT
 """What velto costs, beside the least program of its kind on the same desktop at the same time."""
-import glob
 import os
-import re
 import statistics
 import time
 import unittest
 
 from desktop import VirtualDesktop, wait_for
+from processes import cost_a_second, memory
 
 VELTO, FLOOR = os.environ["VELTO_BIN"], os.environ["FLOOR_BIN"]
 
 
-def cost(pid):
-    """CPU time in seconds and the number of wake-ups so far, of all threads."""
-    seconds = wake_ups = 0
-    for task in glob.glob(f"/proc/{pid}/task/*"):
-        with open(f"{task}/schedstat", encoding="ascii") as file:
-            seconds += int(file.read().split()[0]) / 1e9
-        with open(f"{task}/status", encoding="ascii") as file:
-            wake_ups += int(re.search(r"\nvoluntary_ctxt_switches:\s+(\d+)", file.read())[1])
-    return seconds, wake_ups
-
-
-def cost_a_second(pids, duration=10):
-    before = [cost(pid) for pid in pids]
-    time.sleep(duration)
-    return [tuple((now - then) / duration for now, then in zip(cost(pid), start)) for pid, start in zip(pids, before)]
-
-
-def memory(pid):
-    """In MiB, shared pages counted in part."""
-    with open(f"/proc/{pid}/smaps_rollup", encoding="ascii") as file:
-        return int(re.search(r"\nPss:\s+(\d+) kB", file.read())[1]) / 1024
-
-
 def wait_until_quiet(pid):
-    wait_for(lambda: cost_a_second([pid], 1)[0][1] == 0, what="a program at rest")
+    wait_for(lambda: cost_a_second([[pid]], 1)[0][1] == 0, what="a program at rest")
 
 
 class Cost(unittest.TestCase):
@@ -69,11 +45,11 @@ class Cost(unittest.TestCase):
     def test_nothing_happens_while_nothing_counts(self):
         velto = self.start_velto()
         wait_until_quiet(velto.pid)
-        self.assertEqual(cost_a_second([velto.pid], 5)[0][1], 0, "with the card on show")
+        self.assertEqual(cost_a_second([[velto.pid]], 5)[0][1], 0, "with the card on show")
 
         self.hide_card(velto)
         wait_until_quiet(velto.pid)
-        self.assertEqual(cost_a_second([velto.pid], 5)[0][1], 0, "with the card hidden")
+        self.assertEqual(cost_a_second([[velto.pid]], 5)[0][1], 0, "with the card hidden")
 
     def test_counting_costs_little_more_than_the_least_program(self):
         velto = self.start_velto()
@@ -82,16 +58,16 @@ class Cost(unittest.TestCase):
         floor = self.start_floor()
         time.sleep(2)
 
-        of_velto, of_floor = cost_a_second([velto.pid, floor.pid])
+        of_velto, of_floor = cost_a_second([[velto.pid], [floor.pid]], 10)
 
         print(f"\ncounting: {of_velto[0]:.2%} of a core and {of_velto[1]:.1f} wake-ups a second, "
               f"the floor {of_floor[0]:.2%} and {of_floor[1]:.1f}; "
-              f"memory {memory(velto.pid):.1f} MiB, the floor {memory(floor.pid):.1f} MiB")
+              f"memory {memory([velto.pid])[0]:.1f} MiB, the floor {memory([floor.pid])[0]:.1f} MiB")
         # Four outlined digits are drawn against two plain ones: twice the instructions, and up to four times the
         # time where the processor has slept in between.
         self.assertLess(of_velto[0], 6 * of_floor[0])
         self.assertLess(of_velto[1], 1.5 * of_floor[1])
-        self.assertLess(memory(velto.pid), 2 * memory(floor.pid))
+        self.assertLess(memory([velto.pid])[0], 2 * memory([floor.pid])[0])
 
     def test_starts_as_fast_as_the_least_program(self):
         def seconds(start):

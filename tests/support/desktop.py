@@ -271,7 +271,7 @@ class VirtualDesktop:
     def _start_bus(self):
         address = f"unix:path={self.path('runtime/bus')}"
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
-        self._bus_daemon = self.run("dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address={address}")
+        self.bus_daemon = self.run("dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address={address}")
         self.bus = wait_for(lambda: self.connect(address), what="a session bus")
         self._listener = self.run(
             "dbus-monitor", "--session", "type='method_call',interface='org.kde.StatusNotifierItem',member='Activate'",
@@ -426,7 +426,7 @@ class VirtualDesktop:
 
     def hindrance(self, *processes):
         """How much a busy machine holds up `processes` and what tells of them: the X server, the bus, its listener."""
-        return Hindrance([self.x_server, self._bus_daemon, self._listener, *processes])
+        return Hindrance([self.x_server, self.bus_daemon, self._listener, *processes])
 
     def move(self, x, y):
         self.ask("xdotool", "mousemove", str(x), str(y))
