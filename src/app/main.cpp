@@ -12,6 +12,7 @@
 #include "desktop/session/QtRunLoop.h"
 #include "desktop/session/QtWorkspace.h"
 #include "desktop/session/SingleInstance.h"
+#include "desktop/session/StartEnvironment.h"
 #include "desktop/sound/CanberraSoundLibrary.h"
 #include "desktop/sound/ProcessStreamPlayerFactory.h"
 #include "desktop/status_item/ClickGesture.h"
@@ -39,13 +40,6 @@
 namespace velto {
 
 namespace {
-
-/// Panels are placed, and presses elsewhere are seen, only on X11; other desktops serve it too.
-void preferX11()
-{
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "xcb");
-}
 
 /// The toolkit takes the class of all windows from the application's name at the time of the first one.
 void setWindowClass(const QString& windowClass)
@@ -132,9 +126,11 @@ int main(int argc, char* argv[])
     std::signal(SIGPIPE, SIG_IGN);
     if (const auto status = velto::answerBeforeStart(argc, argv))
         return *status;
-    velto::preferX11();
 
-    QApplication application(argc, argv);
+    auto application = [&] {
+        const velto::StartEnvironment environment;
+        return QApplication(argc, argv);
+    }();
     if (const auto status = velto::refuseUnknown(QApplication::arguments()))
         return *status;
     velto::setWindowClass(QStringLiteral("org.velto.Velto"));

@@ -14,6 +14,7 @@ LINKS = {
 }
 
 OPENER = """#!/bin/sh
+env > "$OPENED.environment"
 printf '%s\\n' "$@" >> "$OPENED"
 """
 
@@ -21,6 +22,7 @@ printf '%s\\n' "$@" >> "$OPENED"
 def setUpModule():
     global desktop
     desktop = unittest.enterModuleContext(VirtualDesktop())
+    del desktop.environment["QT_QPA_PLATFORM"]
     os.mkdir(desktop.path("bin"))
     with open(desktop.path("bin/xdg-open"), "w", encoding="utf-8") as file:
         file.write(OPENER)
@@ -100,6 +102,15 @@ class About(unittest.TestCase):
             wait_for(lambda: self.opened[-1:] == [address], what=address)
 
         self.assertEqual(self.opened, list(LINKS.values()))
+
+    def test_what_it_opens_inherits_nothing_that_is_meant_for_it_alone(self):
+        desktop.click(*self.link("Website").middle)
+        wait_for(lambda: self.opened, what="the link's address")
+
+        with open(desktop.path("opened.environment"), encoding="utf-8") as file:
+            inherited = {line for line in file.read().splitlines() if line.startswith("QT_")}
+        self.assertEqual(inherited, {f"{name}={value}" for name, value in desktop.environment.items()
+                                     if name.startswith("QT_")})
 
     def test_tab_reaches_the_links_and_return_opens_them(self):
         wait_for(lambda: self.link("Support").has_state("focused"))
