@@ -58,7 +58,7 @@ int run(QApplication& application)
     const BackgroundOutput output(std::cout, STDOUT_FILENO);
     const Appearance appearance;
     QtRunLoop runLoop;
-    QtScreens screens;
+    QtScreens screens(runLoop);
     QtApplication desktopApplication;
     QtWorkspace workspace;
     QtCalendar calendar;
@@ -71,14 +71,12 @@ int run(QApplication& application)
     ClickGesture clickGesture(runLoop);
     XInputEventMonitor eventMonitor(clickGesture);
 
-    const auto focus = qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ? FloatingWindow::Focus::taken
-                                                                    : FloatingWindow::Focus::leftAlone;
     const auto hidePanel = [&] { eventMonitor.dismiss(); };
     const auto makeSettingsSheet
         = [&](AppSettings& settings, PomodoroTimer& timer, QWidget& presenter, std::function<void()> dismiss) {
               return std::make_unique<SheetWindow>(
                   std::make_unique<SettingsSheet>(settings, timer, runLoop, std::move(dismiss)), presenter, screens,
-                  hidePanel, focus == FloatingWindow::Focus::taken ? focus : FloatingWindow::Focus::whenUsed);
+                  hidePanel);
           };
 
     const EndSignals endSignals([&] { desktopApplication.terminate(); });
@@ -105,9 +103,7 @@ int run(QApplication& application)
                 return std::make_unique<QtPanelWindow>(
                     std::make_unique<PanelContainerView>(timer, settings, size, runLoop, bundle, makeSettingsSheet),
                     QtPanelWindow::Handlers{.dismiss = hidePanel,
-                        .openMenu = [] { NotificationCenter::defaultCenter().post(statusBarOpenMenu); },
-                        .isAskedFor = [&] { return desktopApplication.currentEvent().has_value(); }},
-                    focus);
+                        .openMenu = [] { NotificationCenter::defaultCenter().post(statusBarOpenMenu); }});
             },
         .makeHelpWindow = [&] { return makeHelpWindow(screens); },
         .makeAboutWindow = [&] { return makeAboutWindow(screens, bundle, calendar, workspace, runLoop); },

@@ -88,9 +88,9 @@ void StatusBarController::handleStatusItemClick()
 void StatusBarController::togglePanel()
 {
     if (m_panelController->panel().isVisible())
-        hideTimer();
-    else
-        showTimer();
+        return hideTimer();
+    showTimer();
+    m_panelController->panel().makeKeyIfNeeded();
 }
 
 void StatusBarController::openMenu()

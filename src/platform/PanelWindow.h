@@ -19,6 +19,9 @@ public:
     /// Gives it the keyboard, or the sheet on it while there is one, until it is left or hidden. What had the
     /// keyboard then has it again. No effect while hidden.
     virtual void makeKey() = 0;
+    /// The user asks to see it. Gives it the keyboard where only the loss of that tells that the user has gone
+    /// elsewhere.
+    virtual void makeKeyIfNeeded() = 0;
 };
 
 } // namespace velto

@@ -25,13 +25,15 @@ public:
         ++outs;
     }
     void makeKey() override { ++keys; }
+    void makeKeyIfNeeded() override { ++keysIfNeeded; }
 
     bool visible = false;
     Rect frame;
     int placements = 0;
     int fronts = 0;
     int outs = 0;
-    int keys = 0; ///< How often it was given the keyboard.
+    int keys = 0;         ///< How often it was given the keyboard,
+    int keysIfNeeded = 0; ///< and how often only if it needs it.
 };
 
 } // namespace velto

@@ -139,7 +139,7 @@ StripWindow::StripWindow(Face* face) :
         std::unique_ptr<QWidget>(face), [] {}, Focus::leftAlone),
     m_face(face)
 {
-    setCorners(radius, edge);
+    shape().setCorners(radius, edge);
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &StripWindow::followScreen);
     followScreen();
 }

@@ -8,7 +8,6 @@
 namespace velto {
 
 QtPanelWindow::QtPanelWindow(std::unique_ptr<QWidget> content, Handlers handlers, Focus focus) :
-    m_isAskedFor(std::move(handlers.isAskedFor)),
     m_window(std::make_unique<FloatingWindow>(std::move(content), std::move(handlers.dismiss), focus))
 {
     QObject::connect(m_window.get(), &FloatingWindow::menuRequested, std::move(handlers.openMenu));
@@ -33,7 +32,7 @@ void QtPanelWindow::setFrame(const Rect& frame)
 
 void QtPanelWindow::orderFrontRegardless()
 {
-    m_window->orderFront(m_isAskedFor());
+    m_window->orderFront();
 }
 
 void QtPanelWindow::orderOut()
@@ -44,6 +43,11 @@ void QtPanelWindow::orderOut()
 void QtPanelWindow::makeKey()
 {
     m_window->takeKeyboard();
+}
+
+void QtPanelWindow::makeKeyIfNeeded()
+{
+    m_window->takeKeyboardIfNeeded();
 }
 
 } // namespace velto

@@ -97,26 +97,24 @@ Screen describe(const QScreen& screen)
 
 } // namespace
 
-QtScreens::QtScreens()
+QtScreens::QtScreens(RunLoop& runLoop) : m_changed(runLoop, [this] { m_changes.send(); })
 {
-    m_changed.setSingleShot(true);
-    QObject::connect(&m_changed, &QTimer::timeout, &m_changed, [this] { m_changes.send(); });
-    m_changed.setInterval(0);
     for (QScreen* screen : QGuiApplication::screens())
         watch(screen);
-    const auto start = qOverload<>(&QTimer::start);
-    QObject::connect(qGuiApp, &QGuiApplication::screenAdded, &m_changed, [this](QScreen* screen) {
+    const auto changed = [this] { m_changed.request(); };
+    QObject::connect(qGuiApp, &QGuiApplication::screenAdded, &m_connections, [this](QScreen* screen) {
         watch(screen);
-        m_changed.start();
+        m_changed.request();
     });
-    QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, &m_changed, start);
-    QObject::connect(qGuiApp, &QGuiApplication::primaryScreenChanged, &m_changed, start);
+    QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, &m_connections, changed);
+    QObject::connect(qGuiApp, &QGuiApplication::primaryScreenChanged, &m_connections, changed);
 }
 
 void QtScreens::watch(QScreen* screen)
 {
-    QObject::connect(screen, &QScreen::geometryChanged, &m_changed, qOverload<>(&QTimer::start));
-    QObject::connect(screen, &QScreen::availableGeometryChanged, &m_changed, qOverload<>(&QTimer::start));
+    const auto changed = [this] { m_changed.request(); };
+    QObject::connect(screen, &QScreen::geometryChanged, &m_connections, changed);
+    QObject::connect(screen, &QScreen::availableGeometryChanged, &m_connections, changed);
 }
 
 Subscription QtScreens::changes(std::function<void()> changed)

@@ -2,9 +2,10 @@
 #pragma once
 
 #include "observation/Broadcast.h"
+#include "platform/OncePerTurn.h"
 #include "platform/Screens.h"
 
-#include <QTimer>
+#include <QObject>
 
 class QScreen;
 
@@ -13,7 +14,8 @@ namespace velto {
 /// The screens of the desktop, with the room that panel bars and docks leave on each.
 class QtScreens final : public Screens {
 public:
-    QtScreens();
+    /// `runLoop` must outlive this.
+    explicit QtScreens(RunLoop& runLoop);
 
     [[nodiscard]] std::optional<Screen> mainScreen() const override;
     [[nodiscard]] std::optional<Screen> screenOf(const Rect& rect) const override;
@@ -23,7 +25,8 @@ private:
     void watch(QScreen* screen);
 
     Broadcast<> m_changes;
-    QTimer m_changed; ///< Runs out once after any number of changes.
+    OncePerTurn m_changed;
+    QObject m_connections; ///< Ends them when it goes.
 };
 
 } // namespace velto

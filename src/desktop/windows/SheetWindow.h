@@ -18,7 +18,7 @@ public:
     /// `presenter` is any widget in the panel; this belongs to the panel's window too. The size wanted is the
     /// content's size hint. `screens` must outlive this.
     SheetWindow(std::unique_ptr<QWidget> content, QWidget& presenter, Screens& screens, std::function<void()> dismiss,
-        Focus focus);
+        Focus focus = sheetFocus());
 
     void setVisible(bool visible) override;
 

@@ -7,6 +7,7 @@
 #include "desktop/x11/X11Desktop.h"
 #include "fixtures/Desktop.h"
 #include "fixtures/OtherWindow.h"
+#include "support/FakeRunLoop.h"
 
 #include <gtest/gtest.h>
 
@@ -355,18 +356,14 @@ TEST(TakingPanelTest, AskedForItTakesTheKeyboardAndLosingItAsksForItsEnd)
     Desktop::current().startWindowManager();
     const auto other = focusedWindow();
     int dismissals = 0;
-    bool isAskedFor = false;
     QtPanelWindow panel{std::make_unique<QPushButton>(QStringLiteral("Start")),
-        QtPanelWindow::Handlers{
-            .dismiss = [&] { ++dismissals; }, .openMenu = [] {}, .isAskedFor = [&] { return isAskedFor; }},
-        QtPanelWindow::Focus::taken};
+        QtPanelWindow::Handlers{.dismiss = [&] { ++dismissals; }, .openMenu = [] {}}, Focus::taken};
     panel.setFrame(rectFromQt(place));
 
     panel.orderFrontRegardless();
     EXPECT_TRUE(stays([&] { return other->hasKeyboard(); }));
 
-    isAskedFor = true;
-    panel.orderFrontRegardless();
+    panel.makeKeyIfNeeded();
     ASSERT_TRUE(eventually([] { return QApplication::activeWindow() != nullptr; }));
     ASSERT_TRUE(Desktop::run("xdotool", {"key", "Escape"}));
     EXPECT_TRUE(eventually([&] { return dismissals == 1; }));
@@ -378,18 +375,20 @@ TEST(TakingPanelTest, AskedForItTakesTheKeyboardAndLosingItAsksForItsEnd)
 TEST(TakingPanelTest, ShownAgainItLeavesTheKeyboardToTheSheetOnIt)
 {
     Desktop::current().startWindowManager("openbox");
-    FloatingWindow card{std::make_unique<QPushButton>(QStringLiteral("Start")), [] {}, FloatingWindow::Focus::taken};
+    FloatingWindow card{std::make_unique<QPushButton>(QStringLiteral("Start")), [] {}, Focus::taken};
     card.setGeometry(place);
-    card.orderFront(true);
+    card.orderFront();
+    card.takeKeyboardIfNeeded();
     ASSERT_TRUE(eventually([&] { return QGuiApplication::focusWindow() == card.windowHandle(); }));
     auto* field = new QLineEdit;
-    QtScreens screens;
-    SheetWindow sheet{std::unique_ptr<QWidget>{field}, card, screens, [] {}, FloatingWindow::Focus::taken};
+    FakeRunLoop runLoop;
+    QtScreens screens{runLoop};
+    SheetWindow sheet{std::unique_ptr<QWidget>{field}, card, screens, [] {}, Focus::taken};
     sheet.show();
     sheet.takeKeyboard();
     ASSERT_TRUE(eventually([&] { return QGuiApplication::focusWindow() == sheet.windowHandle(); }));
 
-    card.orderFront(true);
+    card.orderFront();
 
     EXPECT_TRUE(stays([&] { return QGuiApplication::focusWindow() == sheet.windowHandle(); }));
     ASSERT_TRUE(Desktop::run("xdotool", {"type", "25"}));
@@ -400,11 +399,12 @@ TEST_F(QtPanelWindowTest, ACloseOfASheetFromOutsideClosesItsContentAlsoOverAHidd
 {
     Desktop::current().startWindowManager();
     show();
-    QtScreens screens;
+    FakeRunLoop runLoop;
+    QtScreens screens{runLoop};
     for (const bool isHidden : {false, true}) {
         auto* content = new QLineEdit;
         const EventCounter closes{*content, QEvent::Close};
-        SheetWindow sheet{std::unique_ptr<QWidget>{content}, *surface, screens, [] {}, FloatingWindow::Focus::whenUsed};
+        SheetWindow sheet{std::unique_ptr<QWidget>{content}, *surface, screens, [] {}, Focus::whenUsed};
         sheet.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&sheet));
         sheet.setHidden(isHidden);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/windows/QtScreens.h"
 
+#include "desktop/session/QtRunLoop.h"
 #include "desktop/windows/FlippedGeometry.h"
 #include "fixtures/Desktop.h"
 #include "fixtures/OtherWindow.h"
@@ -41,38 +42,43 @@ void makeTwoScreens()
 const Rect mainFrame{1000, 0, 1280, 800};
 const Rect sideFrame{0, -400, 1000, 900};
 
+class QtScreensTest : public testing::Test {
+protected:
+    QtRunLoop runLoop;
+};
+
 } // namespace
 
-TEST(QtScreensTest, AScreenByItselfHasItsOriginAtItsBottomLeft)
+TEST_F(QtScreensTest, AScreenByItselfHasItsOriginAtItsBottomLeft)
 {
-    EXPECT_EQ(QtScreens{}.mainScreen(), (Screen{{0, 0, 2400, 1200}, {0, 0, 2400, 1200}}));
+    EXPECT_EQ(QtScreens{runLoop}.mainScreen(), (Screen{{0, 0, 2400, 1200}, {0, 0, 2400, 1200}}));
 }
 
-TEST(QtScreensTest, PanelBarsAreNoUsableRoom)
+TEST_F(QtScreensTest, PanelBarsAreNoUsableRoom)
 {
     Desktop::current().startWindowManager();
     OtherWindow bar{{0, 0, 2400, 30}, OtherWindow::Kind::dock};
     bar.setStrut(0, 0, 30, 0);
     bar.show();
 
-    EXPECT_TRUE(eventually([] { return QtScreens{}.mainScreen()->visibleFrame == Rect{0, 0, 2400, 1170}; }));
-    EXPECT_EQ(QtScreens{}.mainScreen()->frame, (Rect{0, 0, 2400, 1200}));
+    EXPECT_TRUE(eventually([&] { return QtScreens{runLoop}.mainScreen()->visibleFrame == Rect{0, 0, 2400, 1170}; }));
+    EXPECT_EQ(QtScreens{runLoop}.mainScreen()->frame, (Rect{0, 0, 2400, 1200}));
 }
 
-TEST(QtScreensTest, AScreenMayReachBelowThePrimaryOne)
+TEST_F(QtScreensTest, AScreenMayReachBelowThePrimaryOne)
 {
     makeTwoScreens();
-    const QtScreens screens;
+    const QtScreens screens{runLoop};
 
     EXPECT_EQ(screens.mainScreen(), (Screen{mainFrame, mainFrame}));
     EXPECT_EQ(screens.screenOf({100, -390, 40, 22}), (Screen{sideFrame, sideFrame}));
     EXPECT_EQ(screens.screenOf({1100, 700, 40, 22}), screens.mainScreen());
 }
 
-TEST(QtScreensTest, ARectangleIsWhereItsMiddleIs)
+TEST_F(QtScreensTest, ARectangleIsWhereItsMiddleIs)
 {
     makeTwoScreens();
-    const QtScreens screens;
+    const QtScreens screens{runLoop};
 
     EXPECT_EQ(screens.screenOf({900, 100, 190, 20})->frame, sideFrame);
     EXPECT_EQ(screens.screenOf({900, 100, 210, 20})->frame, mainFrame);
@@ -80,7 +86,7 @@ TEST(QtScreensTest, ARectangleIsWhereItsMiddleIs)
     EXPECT_EQ(screens.screenOf({5000, 100, 40, 22}), std::nullopt);
 }
 
-TEST(QtScreensTest, ABarTakesRoomOfTheScreenItStandsOnOnly)
+TEST_F(QtScreensTest, ABarTakesRoomOfTheScreenItStandsOnOnly)
 {
     Desktop::current().startWindowManager();
     makeTwoScreens();
@@ -91,7 +97,7 @@ TEST(QtScreensTest, ABarTakesRoomOfTheScreenItStandsOnOnly)
     OtherWindow left{{0, 300, 64, 900}, OtherWindow::Kind::dock};
     left.setStrut(64, 0, 0, 0);
     left.show();
-    const QtScreens screens;
+    const QtScreens screens{runLoop};
 
     EXPECT_TRUE(eventually([&] { return screens.mainScreen()->visibleFrame == Rect{1000, 28, 1280, 772}; }));
     EXPECT_TRUE(eventually([&] {
@@ -101,19 +107,19 @@ TEST(QtScreensTest, ABarTakesRoomOfTheScreenItStandsOnOnly)
     EXPECT_EQ(screens.screenOf({100, 0, 40, 22}), (Screen{sideFrame, {64, -400, 936, 900}}));
 }
 
-TEST(QtScreensTest, ScreensComeAndGo)
+TEST_F(QtScreensTest, ScreensComeAndGo)
 {
     makeTwoScreens();
     ASSERT_TRUE(Desktop::run("xrandr", {"--delmonitor", "side"}));
 
-    EXPECT_TRUE(eventually([] { return !QtScreens{}.screenOf({100, -390, 40, 22}); }));
-    EXPECT_EQ(QtScreens{}.mainScreen()->frame, mainFrame);
+    EXPECT_TRUE(eventually([&] { return !QtScreens{runLoop}.screenOf({100, -390, 40, 22}); }));
+    EXPECT_EQ(QtScreens{runLoop}.mainScreen()->frame, mainFrame);
 }
 
-TEST(QtScreensTest, ChangesAreTold)
+TEST_F(QtScreensTest, ChangesAreTold)
 {
     Desktop::current().startWindowManager();
-    QtScreens screens;
+    QtScreens screens{runLoop};
     int changes = 0;
     const auto subscription = screens.changes([&] { ++changes; });
     const auto isTold = [&](const std::function<void()>& change) {

@@ -2,6 +2,7 @@
 #include "desktop/windows/QtWindow.h"
 
 #include "desktop/windows/QtScreens.h"
+#include "support/FakeRunLoop.h"
 
 #include <QDialog>
 #include <QGuiApplication>
@@ -38,7 +39,8 @@ struct Shown {
     }
     ~Shown() { delete dialog; }
 
-    QtScreens screens;
+    FakeRunLoop runLoop;
+    QtScreens screens{runLoop};
     std::unique_ptr<QtWindow> window;
     QPointer<QWidget> content;
     QPointer<QDialog> dialog;

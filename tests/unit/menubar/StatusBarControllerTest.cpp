@@ -187,9 +187,12 @@ TEST_F(StatusBarControllerTest, ALeftClickShowsThePanelUnderTheItemAndASecondOne
     click(leftClick);
     EXPECT_TRUE(panel->isVisible());
     EXPECT_EQ(panel->frame, (Rect{1040, 654, 360, 420}));
+    EXPECT_EQ(panel->keysIfNeeded, 1);
+    EXPECT_EQ(panel->keys, 0);
 
     click(leftClick);
     EXPECT_FALSE(panel->isVisible());
+    EXPECT_EQ(panel->keysIfNeeded, 1);
     EXPECT_EQ(statusItem->popUps, 0);
 }
 
@@ -250,7 +253,7 @@ TEST_F(StatusBarControllerTest, AtTheEndOfAPhaseTheHiddenPanelIsShownWithoutActi
 
     EXPECT_TRUE(panel->isVisible());
     EXPECT_EQ(panel->frame, (Rect{1040, 654, 360, 420}));
-    EXPECT_EQ(panel->keys, 0);
+    EXPECT_EQ(panel->keys + panel->keysIfNeeded, 0);
     EXPECT_EQ(application.activations, 0);
     EXPECT_EQ(statusItem->popUps, 0);
 }

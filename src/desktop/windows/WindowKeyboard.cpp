@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/windows/WindowKeyboard.h"
+
+#include "desktop/x11/X11Desktop.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QWidget>
+#include <QWindow>
+
+#include <utility>
+#include <vector>
+
+namespace velto {
+
+namespace {
+
+/// In a session of Wayland, nobody tells an X11 program of presses in the windows of others.
+bool seesPressesElsewhere()
+{
+    return !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+}
+
+bool takesText(const QWidget* widget)
+{
+    return widget && widget->testAttribute(Qt::WA_InputMethodEnabled) && widget->focusPolicy() != Qt::NoFocus;
+}
+
+/// Whether `widget` belongs to `window`, be it in one of its pop-ups.
+bool isWithin(const QWidget* window, const QWidget* widget)
+{
+    while (widget && widget != window)
+        widget = widget->parentWidget();
+    return widget != nullptr;
+}
+
+} // namespace
+
+Focus cardFocus()
+{
+    return seesPressesElsewhere() ? Focus::leftAlone : Focus::taken;
+}
+
+Focus sheetFocus()
+{
+    return seesPressesElsewhere() ? Focus::whenUsed : Focus::taken;
+}
+
+WindowKeyboard::WindowKeyboard(
+    QWidget& window, Focus focus, const WindowKeyboard* below, std::function<void()> dismiss) :
+    m_window(window),
+    m_focus(focus),
+    m_below(below),
+    m_dismiss(std::move(dismiss))
+{
+    if (focus != Focus::taken)
+        watchUse();
+    else if (!below)
+        watchLoss();
+}
+
+void WindowKeyboard::take()
+{
+    if (m_focus == Focus::taken)
+        claim();
+    else
+        setAccepted(true);
+}
+
+void WindowKeyboard::takeAsAskedFor()
+{
+    if (m_focus != Focus::taken)
+        return;
+    m_window.activateWindow();
+    activateWidgets();
+}
+
+void WindowKeyboard::keep()
+{
+    if (m_focus == Focus::taken)
+        claim();
+}
+
+void WindowKeyboard::leave()
+{
+    if (m_focus == Focus::taken)
+        leaveToWindowBelow();
+    else
+        setAccepted(false);
+}
+
+bool WindowKeyboard::eventFilter(QObject* /*watched*/, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress)
+        setAccepted(isNeededFor(m_window.childAt(static_cast<QMouseEvent*>(event)->position().toPoint())));
+    return false;
+}
+
+/// Keys can only be pressed where the keyboard is: what is used fetches it.
+void WindowKeyboard::watchUse()
+{
+    m_window.windowHandle()->installEventFilter(this);
+    connect(m_window.windowHandle(), &QWindow::focusObjectChanged, this, [this](QObject* now) {
+        if (isNeededFor(qobject_cast<QWidget*>(now)))
+            setAccepted(true);
+    });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) {
+        // A menu has no keyboard of its own.
+        if (!isWithin(&m_window, now) && !QApplication::activePopupWidget())
+            setAccepted(false);
+    });
+}
+
+/// Lost is what another program has. Between two windows of this one Qt's widgets are all inactive for a moment, its
+/// windows are not.
+void WindowKeyboard::watchLoss()
+{
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* now) {
+        if (!now && m_window.isVisible())
+            m_dismiss();
+    });
+}
+
+bool WindowKeyboard::isNeededFor(const QWidget* widget) const
+{
+    if (m_focus == Focus::leftAlone)
+        return takesText(widget);
+    while (widget && widget != &m_window && !(widget->isEnabled() && widget->focusPolicy() & Qt::ClickFocus))
+        widget = widget->parentWidget();
+    return widget && widget != &m_window;
+}
+
+void WindowKeyboard::setAccepted(bool isAccepted)
+{
+    if (isAccepted == m_isAccepted)
+        return;
+    m_isAccepted = isAccepted;
+    const bool wasActive = m_window.isActiveWindow();
+    // Sets the input hint in place, without mapping the window again.
+    m_window.windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus, !isAccepted);
+    if (!x11::connection())
+        return;
+
+    const xcb_atom_t protocols = x11::atom("WM_PROTOCOLS");
+    const xcb_atom_t takeFocus = x11::atom("WM_TAKE_FOCUS");
+    auto names = x11::property(id(), protocols);
+    std::erase(names, takeFocus);
+    if (isAccepted)
+        names.push_back(takeFocus);
+    x11::setProperty(id(), protocols, XCB_ATOM_ATOM, names);
+
+    if (isAccepted)
+        fetch();
+    else if (wasActive)
+        giveBack();
+}
+
+void WindowKeyboard::fetch()
+{
+    m_previouslyFocused = m_below && m_below->m_isAccepted ? m_below->m_previouslyFocused : x11::focusedWindow();
+    claim();
+}
+
+void WindowKeyboard::claim()
+{
+    if (x11::connection())
+        x11::focus(id());
+    activateWidgets();
+}
+
+/// Hidden with the keyboard, the window has stayed the active one for one half of Qt, which would not tell the other,
+/// the widgets, that it is so again.
+void WindowKeyboard::activateWidgets()
+{
+    if (QGuiApplication::focusWindow() == m_window.windowHandle())
+        QT_IGNORE_DEPRECATIONS(QApplication::setActiveWindow(&m_window);) // Nothing else reaches them.
+}
+
+void WindowKeyboard::giveBack()
+{
+    if (m_below && m_below->m_isAccepted)
+        x11::focus(m_below->id());
+    else if (m_previouslyFocused != XCB_WINDOW_NONE)
+        x11::focus(m_previouslyFocused);
+}
+
+/// To lose the keyboard to another program would dismiss that window, too.
+void WindowKeyboard::leaveToWindowBelow()
+{
+    if (m_below && m_below->m_window.isVisible() && m_window.isActiveWindow())
+        m_below->m_window.activateWindow();
+}
+
+xcb_window_t WindowKeyboard::id() const
+{
+    return static_cast<xcb_window_t>(m_window.winId());
+}
+
+} // namespace velto
