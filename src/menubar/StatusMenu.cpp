@@ -56,13 +56,22 @@ std::shared_ptr<Menu> makeMenu(std::string title)
     return menu;
 }
 
-/// Marks the choices that stand for what is so now.
-template <class Value, class IsCurrent>
-void mark(const Menu& menu, IsCurrent isCurrent)
+/// Returns whether the field had another value before.
+template <class Field, class Value>
+bool assign(Field& field, Value value)
 {
+    return std::exchange(field, std::move(value)) != field;
+}
+
+/// Marks the choices that stand for what is so now. Returns whether a mark came or went.
+template <class Value, class IsCurrent>
+bool mark(const Menu& menu, IsCurrent isCurrent)
+{
+    bool changed = false;
     for (const auto& item : menu.items)
         if (const auto* value = std::any_cast<Value>(&item->representedObject))
-            item->isOn = isCurrent(*value);
+            changed |= assign(item->isOn, isCurrent(*value));
+    return changed;
 }
 
 } // namespace
@@ -219,12 +228,14 @@ void StatusMenu::updateMusic(const MusicChange& focusPreset, const MusicChange& 
 
 void StatusMenu::refreshMenuItems(std::optional<std::int64_t> currentRemaining, std::optional<PomodoroPhase> phase)
 {
-    updateTimerItems(currentRemaining.value_or(m_timer.remainingSeconds()), phase.value_or(m_timer.phase()));
-    updateMarks();
-    m_desktop.didChange();
+    const bool newItems
+        = updateTimerItems(currentRemaining.value_or(m_timer.remainingSeconds()), phase.value_or(m_timer.phase()));
+    const bool newMarks = updateMarks();
+    if (newItems || newMarks)
+        m_desktop.didChange();
 }
 
-void StatusMenu::updateTimerItems(std::int64_t currentRemaining, PomodoroPhase phase)
+bool StatusMenu::updateTimerItems(std::int64_t currentRemaining, PomodoroPhase phase)
 {
     const bool isBreak = phase == PomodoroPhase::breakTime;
     const std::string label = isBreak ? "Break" : "Focus";
@@ -232,30 +243,34 @@ void StatusMenu::updateTimerItems(std::int64_t currentRemaining, PomodoroPhase p
     const bool isRunning = m_timer.isRunning();
     const bool hasStarted = m_timer.hasStarted();
 
-    m_startPauseItem->title = (isRunning ? "Pause " : "Start ") + label;
-    m_resetItem->title = "Reset " + label;
-    m_resetItem->isHidden = !isRunning && !hasStarted;
-    m_resetItem->isEnabled = isRunning || (hasStarted && currentRemaining < total);
-    m_autoTransitionItem->isOn = m_timer.autoTransition();
+    bool changed = assign(m_startPauseItem->title, (isRunning ? "Pause " : "Start ") + label);
+    changed |= assign(m_resetItem->title, "Reset " + label);
+    changed |= assign(m_resetItem->isHidden, !isRunning && !hasStarted);
+    changed |= assign(m_resetItem->isEnabled, isRunning || (hasStarted && currentRemaining < total));
+    changed |= assign(m_autoTransitionItem->isOn, m_timer.autoTransition());
+    return changed;
 }
 
-void StatusMenu::updateMarks()
+bool StatusMenu::updateMarks()
 {
     const DurationPreset current{focusMinutes(), breakMinutes()};
     const auto markDuration = [](const Menu& menu, std::int64_t minutes) {
-        mark<DurationChoice>(menu, [minutes](const DurationChoice& choice) { return choice.minutes == minutes; });
+        return mark<DurationChoice>(
+            menu, [minutes](const DurationChoice& choice) { return choice.minutes == minutes; });
     };
     const auto markMusic = [](const Menu& menu, bool isEnabled, MusicPreset preset) {
         const auto chosen = isEnabled ? std::optional(preset) : std::nullopt;
-        mark<MusicChoice>(menu, [chosen](const MusicChoice& choice) { return choice.preset == chosen; });
+        return mark<MusicChoice>(menu, [chosen](const MusicChoice& choice) { return choice.preset == chosen; });
     };
 
-    markDuration(*m_focusDurationMenu, current.focus);
-    markDuration(*m_breakDurationMenu, current.breakTime);
-    mark<DurationPreset>(*m_presetsMenu, [current](const DurationPreset& preset) { return preset == current; });
-    mark<std::int64_t>(*m_phaseMenu, [this](std::int64_t number) { return pomodoroPhase(number) == m_timer.phase(); });
-    markMusic(*m_focusMusicMenu, m_settings.enableFocusMusic(), m_settings.focusMusicPreset());
-    markMusic(*m_breakMusicMenu, m_settings.enableBreakMusic(), m_settings.breakMusicPreset());
+    bool changed = markDuration(*m_focusDurationMenu, current.focus);
+    changed |= markDuration(*m_breakDurationMenu, current.breakTime);
+    changed |= mark<DurationPreset>(*m_presetsMenu, [&](const DurationPreset& preset) { return preset == current; });
+    changed |= mark<std::int64_t>(
+        *m_phaseMenu, [this](std::int64_t number) { return pomodoroPhase(number) == m_timer.phase(); });
+    changed |= markMusic(*m_focusMusicMenu, m_settings.enableFocusMusic(), m_settings.focusMusicPreset());
+    changed |= markMusic(*m_breakMusicMenu, m_settings.enableBreakMusic(), m_settings.breakMusicPreset());
+    return changed;
 }
 
 std::int64_t StatusMenu::focusMinutes() const

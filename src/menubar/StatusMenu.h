@@ -29,7 +29,7 @@ public:
         std::unique_ptr<WindowController> aboutController;
         std::unique_ptr<WindowController> helpController;
         std::function<void()> openSettings;
-        std::function<void()> didChange; ///< Runs after every refresh.
+        std::function<void()> didChange; ///< Runs after a refresh that changed something.
     };
 
     /// Titles the items, but marks only the durations; a refresh marks the rest. Both references must outlive this.
@@ -60,8 +60,9 @@ private:
     void toggleAutoTransition();
     void show(WindowController& controller);
 
-    void updateTimerItems(std::int64_t currentRemaining, PomodoroPhase phase);
-    void updateMarks();
+    // Return whether a host would show the menu otherwise now.
+    bool updateTimerItems(std::int64_t currentRemaining, PomodoroPhase phase);
+    bool updateMarks();
 
     [[nodiscard]] std::int64_t focusMinutes() const;
     [[nodiscard]] std::int64_t breakMinutes() const;
