@@ -11,7 +11,7 @@ _XFCE = """<?xml version="1.0" encoding="UTF-8"?>
   <property name="configver" type="int" value="2"/>
   <property name="panels" type="array">
     <value type="int" value="1"/>
-    <property name="dark-mode" type="bool" value="true"/>
+    <property name="dark-mode" type="bool" value="{dark}"/>
     <property name="panel-1" type="empty">
       <property name="position" type="string" value="p=6;x=0;y=0"/>
       <property name="output-name" type="string" value="{output}"/>
@@ -107,11 +107,14 @@ def _windows(desktop, wm_class):
 class XfcePanel:
     """The XFCE panel at the top of the main monitor. Shows square pictures, activates on release."""
 
+    def __init__(self, dark=True):
+        self._dark = dark
+
     def start(self, desktop):
         folder = desktop.path("config/xfce4/xfconf/xfce-perchannel-xml")
         os.makedirs(folder, exist_ok=True)
         with open(os.path.join(folder, "xfce4-panel.xml"), "w", encoding="utf-8") as file:
-            file.write(_XFCE.format(output="Primary" if desktop.monitors else "Automatic"))
+            file.write(_XFCE.format(output="Primary" if desktop.monitors else "Automatic", dark=str(self._dark).lower()))
         return desktop.run("xfce4-panel", "--disable-wm-check", "--sm-client-disable")
 
     def item_rectangle(self, desktop):
@@ -149,11 +152,16 @@ class PlainBar:
 class LxqtPanel:
     """The LXQt panel at the top of the screen. Shows square pictures, activates on release."""
 
+    def __init__(self, theme):
+        self._theme = theme
+
     def start(self, desktop):
         folder = desktop.path("config/lxqt")
         os.makedirs(folder, exist_ok=True)
         with open(os.path.join(folder, "panel.conf"), "w", encoding="utf-8") as file:
             file.write(_LXQT)
+        with open(os.path.join(folder, "lxqt.conf"), "w", encoding="utf-8") as file:
+            file.write(f"[General]\ntheme={self._theme}\n")
         return desktop.run("lxqt-panel", environment={"XDG_CURRENT_DESKTOP": "LXQt"})
 
     def item_rectangle(self, desktop):
@@ -184,9 +192,11 @@ class MatePanel:
 
 
 HOSTS = {
-    "lxqt": LxqtPanel(),
+    "lxqt": LxqtPanel("light"),
+    "lxqt-dark": LxqtPanel("dark"),
     "mate": MatePanel(),
     "xfce": XfcePanel(),
+    "xfce-light": XfcePanel(dark=False),
     "press": PlainBar("press"),
     "release": PlainBar("release"),
 }

@@ -72,6 +72,7 @@ DesktopStatusItem::DesktopStatusItem(ClickGesture& gesture, Dispatcher dispatch,
     m_stripDelay.setSingleShot(true);
     m_stripDelay.setInterval(patienceForHost);
     connect(&m_stripDelay, &QTimer::timeout, this, &DesktopStatusItem::showStrip);
+    connect(&m_barColor, &BarColor::changed, this, &DesktopStatusItem::drawPicture);
     connect(&m_bus, &SessionBus::found, this, &DesktopStatusItem::enterBus);
     connect(&m_bus, &SessionBus::lost, this, &DesktopStatusItem::leaveBus);
     qApp->installEventFilter(this);
@@ -88,6 +89,8 @@ void DesktopStatusItem::enterBus()
         m_bus.connection(), [this](ClickEvent::Kind kind, QPoint claimed) { clickedInBar(kind, claimed); },
         DBusMenu::Handlers{[this] { m_gesture.menuRequested(); }, [this] { m_gesture.menuOpened(); },
             [this] { m_gesture.menuClosed(); }});
+    m_bus.connection().connect({}, {}, QStringLiteral("org.xfce.Xfconf"), QStringLiteral("PropertyChanged"),
+        {QStringLiteral("xfce4-panel")}, {}, &m_barColor, SLOT(lookSoon()));
     connect(&m_onBus->hosts, &StatusHostMonitor::watcherMissing, this, &DesktopStatusItem::showStrip);
     connect(&m_onBus->hosts, &StatusHostMonitor::hostChanged, this, &DesktopStatusItem::hostChanged);
     m_onBus->item.setToolTip(m_toolTip);
@@ -128,8 +131,10 @@ void DesktopStatusItem::popUpMenu()
 
 bool DesktopStatusItem::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange)
+    if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange) {
+        m_barColor.lookSoon();
         drawPicture();
+    }
     return QObject::eventFilter(watched, event);
 }
 
@@ -199,6 +204,7 @@ void DesktopStatusItem::hostChanged()
         m_lastAnchor.reset();
     }
     m_traits = recognizeStatusHost(*m_onBus->hosts.host());
+    m_barColor.lookSoon();
     m_onBus->menu.setLeadingItem(m_traits.leftClickOpensMenu ? panelItem() : nullptr);
     drawPicture();
 }
@@ -220,7 +226,8 @@ void DesktopStatusItem::drawPicture()
 {
     if (!hasHost() || m_title.isEmpty())
         return;
-    const auto ink = statusPictureInk(m_traits.barIsAlwaysDark || desktopIsDark(), m_appearsDisabled);
+    m_barColor.refresh();
+    const auto ink = statusPictureInk(barColor(), m_appearsDisabled);
     switch (m_traits.shape) {
     case TimeShape::label:
         m_onBus->item.setPicture(timerStatusPicture(squareSide, ink));
@@ -234,11 +241,19 @@ void DesktopStatusItem::drawPicture()
     }
 }
 
+QColor DesktopStatusItem::barColor() const
+{
+    const bool seemsDark = m_traits.barIsDark || desktopIsDark();
+    return m_barColor.color().value_or(seemsDark ? Qt::black : Qt::white);
+}
+
 void DesktopStatusItem::clickedInBar(ClickEvent::Kind kind, QPoint claimed)
 {
     const auto surroundings = clickSurroundings(claimed);
-    if (const auto found = statusAnchor(surroundings.place))
+    if (const auto found = statusAnchor(surroundings.place)) {
         m_lastAnchor = toPoints(*found).toAlignedRect();
+        m_barColor.setItem(*m_lastAnchor);
+    }
     clicked({kind, surroundings.controlIsHeld});
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/menus/PopUpMenu.h"
+#include "desktop/status_item/BarColor.h"
 #include "desktop/status_item/StatusHost.h"
 #include "platform/Application.h"
 #include "platform/StatusItem.h"
@@ -61,6 +62,7 @@ private:
     void hostChanged();
     void showStrip();
     void drawPicture();
+    [[nodiscard]] QColor barColor() const;
     void clickedInBar(ClickEvent::Kind kind, QPoint claimed);
     void clicked(ClickEvent click);
     [[nodiscard]] std::optional<QRect> anchor() const;
@@ -77,6 +79,7 @@ private:
     QTimer m_stripDelay;
 
     StatusHostTraits m_traits;
+    BarColor m_barColor;
     QString m_title;
     QString m_toolTip;
     QFont m_font;

@@ -84,7 +84,7 @@ StatusHostTraits recognizeStatusHost(const StatusHostFacts& facts)
             continue;
         }
         common->shape = std::max(common->shape, traits.shape);
-        common->barIsAlwaysDark = common->barIsAlwaysDark && traits.barIsAlwaysDark;
+        common->barIsDark = common->barIsDark && traits.barIsDark;
         common->leftClickOpensMenu = common->leftClickOpensMenu || traits.leftClickOpensMenu;
     }
     return common.value_or(ofDesktop(facts.desktop));

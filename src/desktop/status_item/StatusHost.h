@@ -23,7 +23,7 @@ struct StatusHostFacts {
 /// How a host of status items behaves.
 struct StatusHostTraits {
     TimeShape shape = TimeShape::squarePicture;
-    bool barIsAlwaysDark = false;    ///< Else it follows the desktop's colour scheme.
+    bool barIsDark = false;          ///< As it comes, where it can't be seen; else it follows the colour scheme.
     bool leftClickOpensMenu = false; ///< A left click never reaches the item.
     bool operator==(const StatusHostTraits&) const = default;
 };

@@ -23,15 +23,13 @@ QImage transparentImage(int width, int height)
     return image;
 }
 
-void paint(QImage& image, const QPainterPath& path, const StatusPictureInk& ink)
+void paint(QImage& image, const QPainterPath& path, const QColor& ink)
 {
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     // On nothing, replacing is the same as blending, and does not wake a pool of threads for it.
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.strokePath(path, QPen(ink.halo, image.height() / 12.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    painter.fillPath(path, ink.text);
+    painter.fillPath(path, ink);
 }
 
 /// How much wider than drawn by the font a digit may get to fill its cell.
@@ -46,17 +44,21 @@ ClockGlyphs glyphsOf(QFont font, double pixels)
 
 } // namespace
 
-StatusPictureInk statusPictureInk(bool onDark, bool appearsDisabled)
+QColor statusPictureInk(const QColor& bar, bool appearsDisabled)
 {
-    StatusPictureInk ink;
-    ink.text = onDark ? QColor(255, 255, 255) : QColor(24, 24, 26);
-    ink.halo = onDark ? QColor(0, 0, 0, 215) : QColor(255, 255, 255, 215);
+    const auto linear = [](double channel) {
+        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    const double luminance = 0.2126 * linear(bar.redF()) + 0.7152 * linear(bar.greenF()) + 0.0722 * linear(bar.blueF());
+    // Where black and white stand out alike.
+    constexpr double balance = 0.179;
+    QColor ink = luminance < balance ? Qt::white : Qt::black;
     if (appearsDisabled)
-        ink.text.setAlpha(128);
+        ink.setAlphaF(0.5F);
     return ink;
 }
 
-QImage wideStatusPicture(const QString& text, const QFont& font, int height, const StatusPictureInk& ink)
+QImage wideStatusPicture(const QString& text, const QFont& font, int height, const QColor& ink)
 {
     // A line of text in a bar takes about two thirds of its height.
     const auto glyphs = glyphsOf(font, height * 2.0 / 3);
@@ -66,7 +68,7 @@ QImage wideStatusPicture(const QString& text, const QFont& font, int height, con
     return image;
 }
 
-QImage squareStatusPicture(const QString& text, const QFont& font, int height, const StatusPictureInk& ink)
+QImage squareStatusPicture(const QString& text, const QFont& font, int height, const QColor& ink)
 {
     auto image = transparentImage(height, height);
     const auto glyphs = glyphsOf(font, height);
@@ -90,7 +92,7 @@ QImage squareStatusPicture(const QString& text, const QFont& font, int height, c
     return image;
 }
 
-QImage timerStatusPicture(int height, const StatusPictureInk& ink)
+QImage timerStatusPicture(int height, const QColor& ink)
 {
     auto image = transparentImage(height, height);
     const double stroke = height / 10.0;

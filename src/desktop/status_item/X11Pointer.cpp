@@ -11,13 +11,6 @@ namespace velto {
 
 namespace {
 
-bool isDock(xcb_window_t window)
-{
-    static const auto type = x11::atom("_NET_WM_WINDOW_TYPE");
-    static const auto dock = x11::atom("_NET_WM_WINDOW_TYPE_DOCK");
-    return std::ranges::count(x11::property(window, type), dock) > 0;
-}
-
 /// The strip along an edge of the screen that is kept free of windows.
 std::optional<QRect> edgeStripAt(QPoint position)
 {
@@ -26,12 +19,7 @@ std::optional<QRect> edgeStripAt(QPoint position)
         return std::nullopt;
     const auto all = toPixels(screen->geometry(), *screen);
     const auto usable = toPixels(screen->availableGeometry(), *screen);
-    for (const auto& strip : {
-             QRect(all.topLeft(), QPoint(all.right(), usable.top() - 1)),
-             QRect(QPoint(all.left(), usable.bottom() + 1), all.bottomRight()),
-             QRect(all.topLeft(), QPoint(usable.left() - 1, all.bottom())),
-             QRect(QPoint(usable.right() + 1, all.top()), all.bottomRight()),
-         })
+    for (const auto& strip : edgesAround(usable, all))
         if (strip.contains(position))
             return strip;
     return std::nullopt;
@@ -41,7 +29,7 @@ std::optional<QRect> edgeStripAt(QPoint position)
 
 std::optional<QRect> barAt(const x11::Pointer& pointer)
 {
-    const auto dock = std::ranges::find_if(pointer.windows, isDock);
+    const auto dock = std::ranges::find_if(pointer.windows, x11::isDock);
     return dock != pointer.windows.end() ? x11::geometry(*dock) : edgeStripAt({pointer.x, pointer.y});
 }
 

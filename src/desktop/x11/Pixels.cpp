@@ -11,7 +11,7 @@ namespace velto {
 namespace {
 
 template <class Holds>
-const QScreen* screenThat(Holds holds)
+QScreen* screenThat(Holds holds)
 {
     const auto screens = QGuiApplication::screens();
     const auto found = std::ranges::find_if(screens, holds);
@@ -20,12 +20,12 @@ const QScreen* screenThat(Holds holds)
 
 } // namespace
 
-const QScreen* screenAt(QPoint point)
+QScreen* screenAt(QPoint point)
 {
     return screenThat([point](const QScreen* screen) { return screen->geometry().contains(point); });
 }
 
-const QScreen* screenAtPixel(QPoint pixel)
+QScreen* screenAtPixel(QPoint pixel)
 {
     return screenThat([pixel](const QScreen* screen) { return toPixels(screen->geometry(), *screen).contains(pixel); });
 }
@@ -35,6 +35,16 @@ QRect toPixels(const QRect& area, const QScreen& screen)
     const QPointF origin = screen.geometry().topLeft();
     const double factor = screen.devicePixelRatio();
     return QRectF(origin + (area.topLeft() - origin) * factor, QSizeF(area.size()) * factor).toRect();
+}
+
+std::array<QRect, 4> edgesAround(const QRect& inner, const QRect& outer)
+{
+    return {
+        QRect(outer.topLeft(), QPoint(outer.right(), inner.top() - 1)),
+        QRect(QPoint(outer.left(), inner.bottom() + 1), outer.bottomRight()),
+        QRect(outer.topLeft(), QPoint(inner.left() - 1, outer.bottom())),
+        QRect(QPoint(inner.right() + 1, outer.top()), outer.bottomRight()),
+    };
 }
 
 QRectF toPoints(const QRect& pixels)

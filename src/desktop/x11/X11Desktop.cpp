@@ -117,6 +117,21 @@ std::optional<xcb_window_t> outermost(xcb_window_t window)
     }
 }
 
+bool isDock(xcb_window_t window)
+{
+    static const auto type = atom("_NET_WM_WINDOW_TYPE");
+    static const auto dock = atom("_NET_WM_WINDOW_TYPE_DOCK");
+    return std::ranges::count(property(window, type), dock) > 0;
+}
+
+std::optional<xcb_window_t> topLevelAt(QPoint pixel)
+{
+    const auto cookie = xcb_translate_coordinates(connection(), rootWindow(), rootWindow(),
+        static_cast<std::int16_t>(pixel.x()), static_cast<std::int16_t>(pixel.y()));
+    const auto reply = owned(xcb_translate_coordinates_reply(connection(), cookie, nullptr));
+    return reply && reply->child != XCB_WINDOW_NONE ? std::optional(reply->child) : std::nullopt;
+}
+
 xcb_window_t focusedWindow()
 {
     if (hasWindowManager()) {

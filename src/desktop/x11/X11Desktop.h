@@ -32,6 +32,12 @@ void setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t type, const st
 /// when the window is gone.
 [[nodiscard]] std::optional<xcb_window_t> outermost(xcb_window_t window);
 
+/// Whether `window` is a panel bar.
+[[nodiscard]] bool isDock(xcb_window_t window);
+
+/// The outermost window that a press at `pixel` would go to.
+[[nodiscard]] std::optional<xcb_window_t> topLevelAt(QPoint pixel);
+
 /// The window that gets the keys, as far as the window manager or else the server knows.
 [[nodiscard]] xcb_window_t focusedWindow();
 /// Asks for `window` to get the keys, whatever has them.

@@ -11,7 +11,7 @@ struct Case {
     const char* name;
     StatusHostFacts facts;
     TimeShape shape;
-    bool barIsAlwaysDark;
+    bool barIsDark;
     bool leftClickOpensMenu;
 };
 
@@ -22,7 +22,7 @@ TEST_P(StatusHostTest, IsKnownByItsProcessesElseByTheDesktop)
     const auto traits = recognizeStatusHost(GetParam().facts);
 
     EXPECT_EQ(traits.shape, GetParam().shape);
-    EXPECT_EQ(traits.barIsAlwaysDark, GetParam().barIsAlwaysDark);
+    EXPECT_EQ(traits.barIsDark, GetParam().barIsDark);
     EXPECT_EQ(traits.leftClickOpensMenu, GetParam().leftClickOpensMenu);
 }
 

@@ -7,6 +7,9 @@
 #include <QFont>
 #include <QImage>
 
+#include <algorithm>
+#include <cmath>
+
 namespace velto {
 
 namespace {
@@ -18,7 +21,7 @@ protected:
         semibold.setWeight(QFont::DemiBold);
         return semibold;
     }();
-    StatusPictureInk ink = statusPictureInk(true, false);
+    QColor ink = statusPictureInk(Qt::black, false);
 
     QImage wide(const char* text) { return wideStatusPicture(QString::fromLatin1(text), font, 48, ink); }
     QImage square(const char* text) { return squareStatusPicture(QString::fromLatin1(text), font, 48, ink); }
@@ -76,13 +79,29 @@ TEST_F(StatusPictureTest, OtherDigitsMakeAnotherPicture)
     EXPECT_EQ(square("24:59"), square("24:59"));
 }
 
-TEST_F(StatusPictureTest, TheTextStandsOutFromBarsOfEitherBrightness)
+/// The contrast of two colours, from 1 to 21.
+double contrast(const QColor& one, const QColor& other)
 {
-    EXPECT_GT(statusPictureInk(true, false).text.lightness(), 240);
-    EXPECT_LT(statusPictureInk(true, false).halo.lightness(), 16);
-    EXPECT_LT(statusPictureInk(false, false).text.lightness(), 32);
-    EXPECT_GT(statusPictureInk(false, false).halo.lightness(), 240);
-    EXPECT_LT(statusPictureInk(true, true).text.alpha(), statusPictureInk(true, false).text.alpha());
+    const auto luminance = [](const QColor& color) {
+        const auto linear = [](double channel) {
+            return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+    };
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+TEST_F(StatusPictureTest, TheTextStandsOutFromEveryBar)
+{
+    constexpr int step = 15;
+    for (int red = 0; red < 256; red += step)
+        for (int green = 0; green < 256; green += step)
+            for (int blue = 0; blue < 256; blue += step) {
+                const QColor bar(red, green, blue);
+                ASSERT_GE(contrast(statusPictureInk(bar, false), bar), 4.5) << bar.name().toStdString();
+            }
+    EXPECT_LT(statusPictureInk(Qt::white, true).alpha(), statusPictureInk(Qt::white, false).alpha());
 }
 
 TEST_F(StatusPictureTest, TravelsAsNotPremultipliedArgbInNetworkOrder)

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAbstractNativeEventFilter>
+#include <QColor>
+#include <QElapsedTimer>
+#include <QObject>
+#include <QRect>
+#include <QTimer>
+
+#include <optional>
+#include <vector>
+
+#include <xcb/xcb.h>
+
+namespace velto {
+
+/// The colour of the panel bar behind the status item, as it is seen on the X screen.
+///
+/// Looks when something on the desktop changes that may change the bar, such as a theme, a wallpaper or a dock, and
+/// when it is asked to. Does nothing while nothing changes. Main thread only.
+class BarColor final : public QObject, public QAbstractNativeEventFilter {
+    Q_OBJECT
+
+public:
+    BarColor();
+
+    /// Absent where no bar can be seen.
+    [[nodiscard]] const std::optional<QColor>& color() const { return m_color; }
+
+    /// Where the item stands, in points; without it the end of the longest bar counts.
+    void setItem(const QRect& item);
+    /// Looks again if the last look was a while ago. Cheap.
+    void refresh();
+
+    bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
+
+public slots:
+    /// Looks as soon as things have settled.
+    void lookSoon();
+
+signals:
+    void changed();
+
+private:
+    struct Bar {
+        QRect area; ///< In points.
+        xcb_window_t window = XCB_WINDOW_NONE;
+    };
+
+    [[nodiscard]] static std::vector<Bar> bars();
+    void findPlace();
+    void look();
+    void lookAfterChange();
+
+    std::optional<QRect> m_item;
+    std::optional<Bar> m_place; ///< The part of a bar to look at.
+    std::optional<QColor> m_color;
+    QTimer m_settle;
+    int m_looksToCome = 0;
+    QElapsedTimer m_lastLook;
+};
+
+} // namespace velto

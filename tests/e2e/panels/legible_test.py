@@ -1,0 +1,91 @@
+# SPDX-License-Identifier: MIT
+"""The time can be read on every bar: 4.5 to 1 at least against what is really behind it."""
+import os
+import statistics
+import unittest
+
+from desktop import VirtualDesktop, wait_for
+
+
+def luminance(colour):
+    def linear(channel):
+        part = channel / 255
+        return part / 12.92 if part <= 0.04045 else ((part + 0.055) / 1.055) ** 2.4
+    red, green, blue = map(linear, colour)
+    return 0.2126 * red + 0.7152 * green + 0.0722 * blue
+
+
+def contrast(one, other):
+    light, dark = sorted((luminance(one), luminance(other)), reverse=True)
+    return (light + 0.05) / (dark + 0.05)
+
+
+def colours(picture):
+    return [tuple(picture.rgb[start:start + 3]) for start in range(0, len(picture.rgb), 3)]
+
+
+class TheTimeInTheBar(unittest.TestCase):
+    def start(self, host, **desktop):
+        self.desktop = self.enterContext(VirtualDesktop(host=host, **desktop))
+        self.velto = self.desktop.start_velto({})
+        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
+        wait_for(lambda: self.desktop.item_rectangle, what="the item in the bar")
+
+    def ink(self):
+        """The colour of the digits in the exported picture."""
+        _, _, argb = self.velto.item.pictures[0]
+        solid = [tuple(argb[at + 1:at + 4]) for at in range(0, len(argb), 4) if argb[at] > 250]
+        return max(set(solid), key=solid.count)
+
+    def look(self):
+        """The pixels of the item on the screen, and the colour of the bar among them."""
+        seen = colours(self.desktop.picture().crop(*self.desktop.item_rectangle))
+        return seen, tuple(statistics.median(colour[channel] for colour in seen) for channel in range(3))
+
+    def contrasts(self):
+        """Of the digits as exported, and as they are seen on the screen, both against the bar on the screen."""
+        seen, bar = self.look()
+        strokes = sorted((contrast(colour, bar) for colour in seen), reverse=True)
+        return contrast(self.ink(), bar), strokes[len(seen) // 40]
+
+    def wait_until_legible(self, what):
+        self.desktop.move(600, 400)
+        try:
+            wait_for(lambda: min(self.contrasts()) >= 4.5, 15, what=f"digits that can be read on {what}")
+        finally:
+            print(f"{what}: " + ", ".join(f"{value:.1f}:1" for value in self.contrasts()))
+            if folder := os.environ.get("VELTO_PICTURES"):
+                x, y, width, height = self.desktop.item_rectangle
+                self.desktop.picture().crop(x - 200, y, 400, height).save(f"{folder}/{what.replace(' ', '-')}.png")
+
+    def test_on_a_light_bar_of_xfce(self):
+        self.start("xfce-light")
+        self.wait_until_legible("a light XFCE bar")
+
+    def test_on_a_dark_bar_of_xfce(self):
+        self.start("xfce")
+        self.wait_until_legible("a dark XFCE bar")
+
+    def test_on_a_bar_of_xfce_that_changes(self):
+        self.start("xfce")
+        self.wait_until_legible("an XFCE bar while it is dark")
+
+        for dark, what in (("false", "light"), ("true", "dark")):
+            _, earlier = self.look()
+            self.desktop.ask("xfconf-query", "-c", "xfce4-panel", "-p", "/panels/dark-mode", "-s", dark)
+            wait_for(lambda: contrast(self.look()[1], earlier) > 4.5, what=f"an XFCE bar that becomes {what}")
+            self.wait_until_legible(f"an XFCE bar that became {what}")
+
+    def test_on_mate_light_and_dark(self):
+        for dark in (False, True):
+            self.start("mate", dark=dark)
+            self.wait_until_legible(f"a {'dark' if dark else 'light'} MATE bar")
+
+    def test_on_lxqt_light_and_dark(self):
+        for host in ("lxqt", "lxqt-dark"):
+            self.start(host)
+            self.wait_until_legible(f"a bar of {host}")
+
+
+if __name__ == "__main__":
+    unittest.main()
