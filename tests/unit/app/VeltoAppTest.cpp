@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <malloc.h>
+
 namespace velto {
 
 using namespace std::chrono_literals;
@@ -69,6 +71,37 @@ TEST_F(VeltoAppTest, AWholeRoundFromTheMenuAndBack)
     EXPECT_EQ(statusItem->menu->items.front()->title, "Pause Focus");
     EXPECT_EQ(players.opened.size(), 2U);
     EXPECT_EQ(sounds.played.size(), 22U) << "ten and one at the end of each phase";
+}
+
+TEST_F(VeltoAppTest, TenThousandPhasesLeaveNothingBehind)
+{
+    store.values = {{"focusMinutes", std::int64_t{1}}, {"breakMinutes", std::int64_t{1}}, {"autoTransition", true},
+        {"enableFocusMusic", true}};
+    VeltoApp app{platform};
+    app.appDelegate().applicationDidFinishLaunching();
+    app.timer().start();
+    const auto bytesAfter = [&](int phases) {
+        for (int phase = 0; phase < phases; ++phase) {
+            runLoop.advance(61s);
+            // What the fakes remember.
+            statusItem->button()->titles.clear();
+            statusItem->button()->appearsDisabled.clear();
+            sounds.asked.clear();
+            sounds.played.clear();
+            players.opened.clear();
+            players.calls.clear();
+        }
+        return mallinfo2().uordblks;
+    };
+    testing::internal::CaptureStdout(); // a line for each stream
+    const auto before = bytesAfter(50);
+    const auto later = bytesAfter(10'000);
+    testing::internal::GetCapturedStdout();
+    if (before == 0)
+        GTEST_SKIP() << "another allocator keeps no count";
+
+    EXPECT_EQ(later, before);
+    EXPECT_TRUE(app.timer().isRunning());
 }
 
 } // namespace velto
