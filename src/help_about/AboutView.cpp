@@ -7,14 +7,23 @@
 #include "platform/Calendar.h"
 #include "platform/RunLoop.h"
 #include "platform/Workspace.h"
+#include "style/Paragraph.h"
 #include "style/Stack.h"
 #include "style/TextLabel.h"
+
+#include <QEvent>
 
 #include <utility>
 
 namespace velto {
 
 using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int spacing = 20;
+
+} // namespace
 
 AboutView::AboutView(QSize size, AboutDetails details, const Bundle& bundle, const Calendar& calendar,
     Workspace& workspace, RunLoop& runLoop) :
@@ -29,17 +38,27 @@ AboutView::AboutView(QSize size, AboutDetails details, const Bundle& bundle, con
     m_rights(new TextLabel({}, TextStyle::footnote, ColorName::tertiaryLabel))
 {
     auto* icon = new ApplicationIcon(120, 16);
-    auto* description = new TextLabel("A focus timer companion built to keep sessions simple and distraction-free.",
-        TextStyle::body, ColorName::secondaryLabel);
-    description->setWordWrap(true);
+    auto* description = new Paragraph("A focus timer companion built to keep sessions simple and distraction-free.",
+        TextStyle::body, ColorName::secondaryLabel, Qt::AlignHCenter);
     auto* support = aboutButton("Support", m_details.supportLink);
     auto* website = aboutButton("Website", m_details.websiteLink);
     auto* coffee = aboutButton("Buy Me a Coffee", m_details.donationLink);
 
     auto* links = row({.spacing = 16}, support, website, coffee);
-    auto* words = column({.spacing = 10}, m_title, filling(description), links);
-    setLayout(column({.spacing = 20, .padding = {24, 24, 24, 24}}, spacer,
-        row({.spacing = 16, .alignment = Qt::AlignTop}, icon, words), m_version, m_rights, spacer));
+    auto* words = column({.spacing = 10}, m_title, filling(description), links, spacer);
+    m_column = column({.spacing = spacing, .padding = {24, 24, 24, 24}}, spacer,
+        filling(row({.spacing = 16, .alignment = {}}, spacer, column({}, icon, spacer), words, spacer)), m_version,
+        m_rights, spacer);
+    setLayout(m_column);
+}
+
+bool AboutView::event(QEvent* event)
+{
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize) {
+        if (const int fitting = fittingSpacing(*m_column, size(), spacing); fitting != m_column->spacing())
+            m_column->setSpacing(fitting);
+    }
+    return QWidget::event(event);
 }
 
 void AboutView::showEvent(QShowEvent* event)

@@ -8,6 +8,8 @@
 #include <optional>
 #include <string>
 
+class QBoxLayout;
+
 namespace velto {
 
 class Bundle;
@@ -35,6 +37,8 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override { return m_size; }
 
+    bool event(QEvent* event) override;
+
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
@@ -49,6 +53,7 @@ private:
     const Calendar& m_calendar;
     Workspace& m_workspace;
     RunLoop& m_runLoop;
+    QBoxLayout* m_column;
     TextLabel* m_title;
     TextLabel* m_version;
     TextLabel* m_rights;

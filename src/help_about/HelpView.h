@@ -3,9 +3,12 @@
 
 #include <QScrollArea>
 
+class QBoxLayout;
+
 namespace velto {
 
-/// The usage notes on one page, which scrolls where it is higher than its place.
+/// The usage notes on one page. Where it is higher than its place, its sections move together; if that does not
+/// help, it scrolls.
 class HelpView final : public QScrollArea {
     Q_OBJECT
 
@@ -14,8 +17,16 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override { return m_size; }
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void fit();
+
     QSize m_size;
+    QBoxLayout* m_page = nullptr;
 };
 
 } // namespace velto

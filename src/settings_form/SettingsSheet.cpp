@@ -5,6 +5,7 @@
 #include "style/Button.h"
 #include "style/Divider.h"
 #include "style/Drawing.h"
+#include "style/Paragraph.h"
 #include "style/PopUpPicker.h"
 #include "style/ScrollBar.h"
 #include "style/Slider.h"
@@ -207,10 +208,8 @@ QWidget* SettingsSheet::durationSlider(const QString& title, Published<std::int6
 QLayout* SettingsSheet::behavior()
 {
     auto* autoTransition = toggle(tr("Auto-Transition"), m_form.autoTransition);
-    auto* explanation = new TextLabel(
-        tr("Automatically start the next phase when timer reaches 0"), TextStyle::footnote, ColorName::secondaryLabel);
-    explanation->setWordWrap(true);
-    explanation->setAlignment(Qt::AlignHCenter);
+    auto* explanation = new Paragraph(tr("Automatically start the next phase when timer reaches 0"),
+        TextStyle::footnote, ColorName::secondaryLabel, Qt::AlignHCenter);
     return column({.spacing = 8}, autoTransition, filling(explanation));
 }
 

@@ -7,6 +7,9 @@
 #include <QMargins>
 #include <QWidget>
 
+#include <algorithm>
+#include <cmath>
+
 namespace velto {
 
 /// How the children of a stack stand.
@@ -121,6 +124,16 @@ template <class... Children>
     grid->setContentsMargins(options.padding);
     (detail::addLayer(*grid, children, options.alignment), ...);
     return grid;
+}
+
+/// The spacing with which `box` is as high as `room`: `usual` if it is lower, and less where it is higher.
+[[nodiscard]] inline int fittingSpacing(const QBoxLayout& box, QSize room, int usual)
+{
+    int gaps = -1;
+    for (int i = 0; i < box.count(); ++i)
+        gaps += box.itemAt(i)->isEmpty() ? 0 : 1;
+    const double missing = box.totalHeightForWidth(room.width()) - room.height();
+    return std::min(usual, box.spacing() - static_cast<int>(std::ceil(missing / std::max(gaps, 1))));
 }
 
 } // namespace velto

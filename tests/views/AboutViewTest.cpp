@@ -113,29 +113,10 @@ TEST_F(AboutViewTest, StandsCentredInItsFrame)
     EXPECT_EQ(version.y() - icon.y() - icon.height(), 20);
     EXPECT_EQ(rights.y() - version.y() - version.height(), 20);
     EXPECT_NEAR(icon.y(), 240 - rights.y() - rights.height(), 1);
-    EXPECT_NEAR(icon.x(), 640 - third.x() - third.width(), 40);
+    EXPECT_NEAR(icon.x(), 640 - third.x() - third.width(), 1);
+    EXPECT_NEAR(title.center().x(), (first.left() + third.right()) / 2, 1);
     EXPECT_NEAR(version.center().x(), 319, 1);
     EXPECT_NEAR(rights.center().x(), 319, 1);
-}
-
-TEST_F(AboutViewTest, HoldsTheLargestText)
-{
-    const auto usualFont = QApplication::font();
-    auto large = usualFont;
-    large.setPixelSize(20);
-    QApplication::setFont(large);
-    AboutView largeView{QSize(640, 240), {}, bundle, calendar, workspace, runLoop};
-    QApplication::setFont(usualFont);
-
-    largeView.resize(640, 240);
-    largeView.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&largeView));
-
-    EXPECT_EQ(largeView.findChild<QLabel*>()->font().pixelSize(), 21);
-    for (const auto* child : largeView.findChildren<QWidget*>())
-        EXPECT_TRUE(largeView.rect().contains(child->geometry())) << child->metaObject()->className();
-    for (const auto* label : largeView.findChildren<QLabel*>())
-        EXPECT_GE(label->height(), label->heightForWidth(label->width())) << label->text().toStdString();
 }
 
 TEST_F(AboutViewTest, ALinkOpensItsAddress)

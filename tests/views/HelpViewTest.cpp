@@ -28,6 +28,8 @@ protected:
         view.resize(size);
         view.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+        // The bar that comes or goes asks for another layout.
+        QCoreApplication::processEvents();
     }
 
     /// Where `child` stands on the page.
@@ -76,9 +78,9 @@ TEST_F(HelpViewTest, SaysEverythingToTheLetter)
 
 TEST_F(HelpViewTest, StandsInItsPlaceFromTopToBottom)
 {
-    show({600, 800});
-
     EXPECT_EQ(view.sizeHint(), QSize(600, 800));
+    show({600, 830});
+
     EXPECT_EQ(place(view.findChild<ApplicationIcon*>()), QRect(260, 32, 80, 80));
     const auto dividers = view.findChildren<Divider*>();
     ASSERT_EQ(dividers.size(), 2);
@@ -120,6 +122,43 @@ TEST_F(HelpViewTest, NeedsNoScrollingAtItsOwnSize)
 
     EXPECT_FALSE(view.verticalScrollBar()->isVisible());
     EXPECT_FALSE(view.horizontalScrollBar()->isVisible());
+}
+
+TEST_F(HelpViewTest, MovesTogetherBeforeItScrolls)
+{
+    for (const int height : {800, 730}) {
+        show({600, height});
+
+        EXPECT_FALSE(view.verticalScrollBar()->isVisible()) << height;
+        const auto sections = view.findChildren<HelpSection*>();
+        for (int i = 2; i < sections.size(); ++i)
+            EXPECT_EQ(place(sections.at(i)).y() - place(sections.at(i - 1)).bottom(),
+                place(sections.at(1)).y() - place(sections.at(0)).bottom());
+    }
+}
+
+TEST_F(HelpViewTest, KeepsItsColumnBesideAScrollBar)
+{
+    show({600, 830});
+    const auto wide = place(view.findChildren<HelpSection*>().at(1));
+
+    show({600, 500});
+
+    ASSERT_TRUE(view.verticalScrollBar()->isVisible());
+    const auto scrolled = place(view.findChildren<HelpSection*>().at(1));
+    EXPECT_EQ(scrolled.x(), wide.x());
+    EXPECT_EQ(scrolled.width(), wide.width());
+}
+
+TEST_F(HelpViewTest, LinesStandApart)
+{
+    show({600, 830});
+
+    for (const auto* section : view.findChildren<HelpSection*>()) {
+        const auto* text = section->findChildren<QLabel*>().at(1);
+        const int lines = std::max<int>(text->text().count(u'\n') + 1, 2);
+        EXPECT_GE(text->height(), 1.3 * lines * text->font().pixelSize()) << text->text().toStdString();
+    }
 }
 
 TEST_F(HelpViewTest, ScrollsToItsEndWhereItIsLower)

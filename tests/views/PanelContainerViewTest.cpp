@@ -55,34 +55,6 @@ TEST_F(PanelContainerViewTest, TheRowsStandAtTheirDistances)
     EXPECT_NEAR(ringFrame().top() - 10 - 20, 20 + 380 - (name.bottom() + 1), 1);
 }
 
-TEST_F(PanelContainerViewTest, EverythingFitsAtEveryTextSizeAndLength)
-{
-    for (const double points : {10.0, 11.0, 12.5, 18.0}) {
-        setDesktopFont(points);
-        for (const std::int64_t minutes : {25, 99, 100, 999, 1000}) {
-            build(minutes, 1000);
-            timer->start();
-            runLoop.advance(1s);
-            look();
-
-            const auto content = frame(&child<ContentView>());
-            for (const auto* widget : view->findChildren<QWidget*>()) {
-                if (!widget->isVisible())
-                    continue;
-                EXPECT_TRUE(content.contains(frame(widget))) << widget->metaObject()->className() << points;
-                if (qobject_cast<const TextLabel*>(widget) || qobject_cast<const Button*>(widget)) {
-                    EXPECT_GE(widget->width(), widget->sizeHint().width());
-                    EXPECT_GE(widget->height(), widget->sizeHint().height());
-                }
-            }
-            const auto& title = child<PhaseTitle>();
-            EXPECT_GE(title.width(), title.sizeHint().width());
-            EXPECT_GE(title.height(), title.sizeHint().height());
-            EXPECT_LE(child<RollingTime>().textWidth(), child<RollingTime>().width());
-        }
-    }
-}
-
 TEST_F(PanelContainerViewTest, TheNameIsTheBundlesOrVelto)
 {
     bundle.values["CFBundleName"] = "Tomato";

@@ -111,32 +111,6 @@ TEST_F(SettingsSheetTest, ShowsTheCurrentSettings)
     EXPECT_THAT(store.writes, IsEmpty());
 }
 
-TEST_F(SettingsSheetTest, NothingIsClippedWhenTheUsersFontIsLarge)
-{
-    settings.enableFocusMusic.set(true);
-    settings.enableBreakMusic.set(true);
-    for (const double scale : {1.0, 1.25}) {
-        auto font = QApplication::font();
-        font.setPointSizeF(10 * scale);
-        QApplication::setFont(font);
-        open();
-
-        for (const auto* label : sheet->findChildren<QLabel*>()) {
-            if (label->isVisible()) {
-                EXPECT_GE(label->width(), label->wordWrap() ? 1 : label->sizeHint().width())
-                    << label->text().toStdString();
-                EXPECT_GE(label->height(), label->heightForWidth(label->width())) << label->text().toStdString();
-            }
-        }
-        for (const auto* button : sheet->findChildren<QAbstractButton*>())
-            EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
-        for (const auto* picker : sheet->findChildren<PopUpPicker*>())
-            EXPECT_GE(picker->width(), picker->sizeHint().width()) << picker->accessibleDescription().toStdString();
-        const auto* number = find<EditableNumberField>("Focus");
-        EXPECT_GE(number->width() - 16, number->fontMetrics().horizontalAdvance("120"));
-    }
-}
-
 TEST_F(SettingsSheetTest, ScrollsWithAnIndicatorAndFurtherOnALowerScreen)
 {
     open();

@@ -2,8 +2,11 @@
 // Draws every view in every form into pictures: velto_gallery FOLDER. The scale is QT_SCALE_FACTOR.
 
 #include "core/PomodoroTimer.h"
+#include "help_about/AboutView.h"
+#include "help_about/HelpView.h"
 #include "panel/PanelContainerView.h"
 #include "settings/AppSettings.h"
+#include "settings_form/SettingsSheet.h"
 #include "style/Button.h"
 #include "style/Colors.h"
 #include "style/Motion.h"
@@ -15,16 +18,20 @@
 #include "style/TextLabel.h"
 #include "style/ToggleSwitch.h"
 #include "support/FakeBundle.h"
+#include "support/FakeCalendar.h"
 #include "support/FakeKeyValueStore.h"
 #include "support/FakeRunLoop.h"
 #include "support/FakeSoundLibrary.h"
 #include "support/FakeStreamPlayerFactory.h"
+#include "support/FakeWorkspace.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QDir>
 #include <QImage>
 #include <QPainter>
+#include <QScrollArea>
+#include <QScrollBar>
 
 using namespace std::chrono_literals;
 
@@ -72,6 +79,7 @@ public:
         });
         card("endless", 123456789, 987654321, {});
         controls();
+        windows();
     }
 
 private:
@@ -153,6 +161,39 @@ private:
         save(*picker->view()->window(), "popup");
     }
 
+    void windows()
+    {
+        FakeKeyValueStore store;
+        FakeSoundLibrary sounds;
+        FakeRunLoop runLoop;
+        FakeStreamPlayerFactory players;
+        FakeBundle bundle;
+        FakeCalendar calendar;
+        FakeWorkspace workspace;
+        AppSettings settings{store, sounds};
+        settings.enableFocusMusic.set(true);
+        settings.countdownSound.set(SoundOption::none);
+        PomodoroTimer timer{settings, runLoop, players};
+        SettingsSheet form{settings, timer, runLoop, [] {}};
+        form.resize(form.sizeHint());
+        form.show();
+        save(form, "form");
+        auto* bar = form.findChild<QScrollArea*>()->verticalScrollBar();
+        bar->setValue(bar->maximum());
+        save(form, "form-end");
+        HelpView help{{600, 800}};
+        help.resize(help.sizeHint());
+        help.show();
+        save(help, "help");
+        help.resize(600, 600);
+        save(help, "help-low");
+        bundle.values = {{"CFBundleShortVersionString", "1.0.0"}, {"CFBundleVersion", "1"}};
+        AboutView about{{640, 240}, {"The velto authors", {}, {}, {}}, bundle, calendar, workspace, runLoop};
+        about.resize(about.sizeHint());
+        about.show();
+        save(about, "about");
+    }
+
     void save(QWidget& view, const QString& name)
     {
         for (const auto theme : {Theme::light, Theme::dark, Theme::lightHighContrast, Theme::darkHighContrast}) {
@@ -166,8 +207,9 @@ private:
             QPainter painter(&image);
             view.render(&painter, {24, 24}, {},
                 QWidget::DrawChildren
-                    | (view.inherits("velto::PanelContainerView") ? QWidget::RenderFlags()
-                                                                  : QWidget::DrawWindowBackground));
+                    | ((view.inherits("velto::PanelContainerView") || view.inherits("velto::SettingsSheet"))
+                            ? QWidget::RenderFlags()
+                            : QWidget::DrawWindowBackground));
             painter.end();
             static const char* const suffixes[] = {"light", "dark", "light-contrast", "dark-contrast"};
             image.save(QStringLiteral("%1/%2-%3@%4x.png")

@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 """The usage notes: as a welcome at the first launch, and from the menu."""
+import contextlib
 import os
 import shutil
 import unittest
@@ -151,8 +152,9 @@ class HowToUse(Help):
 
 
 class OnALowScreen(Help):
-    def test_the_notes_fit_and_scroll_and_are_where_they_were_when_they_come_back(self):
-        with VirtualDesktop(size=(1366, 768)) as low:
+    @contextlib.contextmanager
+    def opened(self, size):
+        with VirtualDesktop(size=size) as low:
             velto = low.start_velto({})
             wait_for(lambda: velto.card_is_visible, what="the card, shown at launch")
             velto.item.choose("How to Use")
@@ -164,7 +166,15 @@ class OnALowScreen(Help):
             self.assertGreaterEqual((x, y), (left, top))
             self.assertLessEqual(y + height, top + depth)
             self.assertEqual(place(low, window)[2], 600)
+            yield low, velto
 
+    def test_on_the_screen_of_a_small_laptop_they_fit_without_scrolling(self):
+        with self.opened((1366, 768)) as (_, velto):
+            with self.assertRaises(LookupError):
+                shown(velto, HELP)[0].find("scroll bar")
+
+    def test_they_scroll_and_are_where_they_were_when_they_come_back(self):
+        with self.opened((1366, 600)) as (low, velto):
             def bar():
                 return shown(velto, HELP)[0].find("scroll bar")
             low.key("Down")
