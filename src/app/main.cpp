@@ -56,7 +56,7 @@ int run(QApplication& application)
         return *status;
 
     const BackgroundOutput output(std::cout, STDOUT_FILENO);
-    const Appearance appearance;
+    const Appearance appearance(bus);
     QtRunLoop runLoop;
     QtScreens screens(runLoop);
     QtApplication desktopApplication;

@@ -274,7 +274,7 @@ TEST_F(ControlsTest, TheFocusOfTheKeyboardIsVisible)
 
 TEST_F(ControlsTest, TextAndControlsGrowWithTheDesktopsFontWhileShown)
 {
-    const Appearance appearance{QDBusConnection("there is no such connection")};
+    const Appearance appearance;
     const auto before = QApplication::font();
     const int height = button->sizeHint().height();
     TextLabel label("Volume");

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "views/PanelContainerViewFixture.h"
 
-#include "desktop/session/Appearance.h"
 #include "style/SymbolView.h"
 
 #include <string>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/session/Appearance.h"
 
+#include "desktop/bus/SessionBus.h"
+
 #include <QApplication>
 #include <QDBusMessage>
 #include <QDBusMetaType>
@@ -26,13 +28,18 @@ constexpr auto accessibilityGroup = "org.gnome.desktop.a11y.interface";
 
 } // namespace
 
-Appearance::Appearance(const QDBusConnection& bus) : m_desktopPalette(QApplication::palette())
+Appearance::Appearance() : m_desktopPalette(QApplication::palette())
 {
     // Views draw themselves; the rest, such as lists and scroll bars, shall look the same everywhere.
     QApplication::setStyle(QStringLiteral("Fusion"));
     apply();
     qApp->installEventFilter(this);
-    askPortal(bus);
+}
+
+Appearance::Appearance(SessionBus& bus) : Appearance()
+{
+    askPortal(bus.connection());
+    connect(&bus, &SessionBus::found, this, [this, &bus] { askPortal(bus.connection()); });
 }
 
 Theme Appearance::theme() const
@@ -67,7 +74,7 @@ bool Appearance::eventFilter(QObject* watched, QEvent* event)
         apply();
     }
     if (watched == qApp && event->type() == QEvent::ApplicationFontChange) {
-        // The toolkit tells windows only, but text with a size of its own has to follow, too.
+        // Qt tells windows only, but text with a size of its own has to follow, too.
         for (auto* widget : QApplication::allWidgets())
             if (!widget->isWindow())
                 QApplication::sendEvent(widget, event);

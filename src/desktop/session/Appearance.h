@@ -13,18 +13,22 @@
 
 namespace velto {
 
+class SessionBus;
+
 /// Makes the application look as the desktop wishes: light or dark, plain or high contrast, with or
 /// without motion, in the size of its font, now and whenever the wish changes.
 ///
-/// The desktop's settings portal is asked first, without waiting for it; what it leaves open follows
-/// the palette that the desktop gave the application. One object, created right after the application
-/// and living as long. Views read the outcome from their palette and from `mayAnimate`.
+/// The desktop's settings portal is asked first, without waiting for it, and again whenever the session bus
+/// comes back; what it leaves open follows the palette that the desktop gave the application. One object, created right
+/// after the application and living as long. Views read the outcome from their palette and from `mayAnimate`.
 class Appearance : public QObject {
     Q_OBJECT
 
 public:
-    /// `bus` is where the portal lives; one that is not connected has none.
-    explicit Appearance(const QDBusConnection& bus = QDBusConnection::sessionBus());
+    /// Follows the palette alone.
+    Appearance();
+    /// `bus` is where the portal lives; it must outlive this.
+    explicit Appearance(SessionBus& bus);
 
     [[nodiscard]] Theme theme() const;
     [[nodiscard]] bool reducesMotion() const;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/session/Appearance.h"
 
+#include "desktop/bus/SessionBus.h"
+#include "fixtures/Bus.h"
 #include "style/Motion.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +12,7 @@
 #include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusMetaType>
-#include <QProcess>
+#include <QSignalSpy>
 #include <QTest>
 
 namespace velto {
@@ -21,43 +23,19 @@ using SettingGroups = QMap<QString, QVariantMap>;
 
 constexpr int patience = 20'000;
 
-/// A bus that nobody else is on, with one connection for the portal and one for the program.
-class PrivateBus {
-public:
-    PrivateBus()
-    {
-        m_daemon.start(QStringLiteral("dbus-daemon"), {"--session", "--nofork", "--print-address"});
-        if (!m_daemon.waitForStarted(patience) || !m_daemon.waitForReadyRead(patience))
-            return;
-        m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
-    }
-
-    ~PrivateBus()
-    {
-        QDBusConnection::disconnectFromBus("portal");
-        QDBusConnection::disconnectFromBus("program");
-        m_daemon.terminate();
-        m_daemon.waitForFinished(patience);
-    }
-
-    QDBusConnection connection(const QString& name) { return QDBusConnection::connectToBus(m_address, name); }
-
-private:
-    QProcess m_daemon;
-    QString m_address;
-};
-
+/// Another program on the bus of the tests.
 class FakePortal : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
 
 public:
-    explicit FakePortal(QDBusConnection bus) : m_bus(std::move(bus))
+    FakePortal()
     {
         qDBusRegisterMetaType<SettingGroups>();
         m_bus.registerObject("/org/freedesktop/portal/desktop", this, QDBusConnection::ExportScriptableSlots);
         m_bus.registerService("org.freedesktop.portal.Desktop");
     }
+    ~FakePortal() override { QDBusConnection::disconnectFromBus("portal"); }
 
     void change(const QString& group, const QString& key, const QVariant& value)
     {
@@ -79,7 +57,7 @@ public slots:
     }
 
 private:
-    QDBusConnection m_bus;
+    QDBusConnection m_bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "portal");
 };
 
 class AppearanceTest : public testing::Test {
@@ -95,7 +73,7 @@ protected:
         return QTest::qWaitFor([theme] { return shownTheme() == theme; }, patience);
     }
 
-    PrivateBus bus;
+    SessionBus bus{"program"};
 
 private:
     QPalette m_paletteBefore;
@@ -105,7 +83,7 @@ constexpr auto appearance = "org.freedesktop.appearance";
 
 TEST_F(AppearanceTest, WithoutAPortalThePaletteDecidesAndIsFollowed)
 {
-    Appearance subject{QDBusConnection("there is no such connection")};
+    Appearance subject;
     EXPECT_EQ(shownTheme(), Theme::light);
 
     QApplication::setPalette(darkDesktop());
@@ -117,10 +95,10 @@ TEST_F(AppearanceTest, WithoutAPortalThePaletteDecidesAndIsFollowed)
 
 TEST_F(AppearanceTest, ThePortalIsAskedOnceAndNotWaitedFor)
 {
-    FakePortal portal{bus.connection("portal")};
+    FakePortal portal;
     portal.groups[appearance]["color-scheme"] = 1u;
 
-    Appearance subject{bus.connection("program")};
+    Appearance subject{bus};
     EXPECT_EQ(shownTheme(), Theme::light);
 
     ASSERT_TRUE(comesTo(Theme::dark));
@@ -129,9 +107,9 @@ TEST_F(AppearanceTest, ThePortalIsAskedOnceAndNotWaitedFor)
 
 TEST_F(AppearanceTest, ThePortalOverridesThePaletteUnlessItHasNoPreference)
 {
-    FakePortal portal{bus.connection("portal")};
+    FakePortal portal;
     portal.groups[appearance]["color-scheme"] = 1u;
-    Appearance subject{bus.connection("program")};
+    Appearance subject{bus};
     ASSERT_TRUE(comesTo(Theme::dark));
 
     portal.change(appearance, "color-scheme", 2u);
@@ -145,10 +123,10 @@ TEST_F(AppearanceTest, ThePortalOverridesThePaletteUnlessItHasNoPreference)
 
 TEST_F(AppearanceTest, HighContrastIsFollowedLive)
 {
-    FakePortal portal{bus.connection("portal")};
+    FakePortal portal;
     portal.groups[appearance]["color-scheme"] = 1u;
     portal.groups[appearance]["contrast"] = 1u;
-    Appearance subject{bus.connection("program")};
+    Appearance subject{bus};
     ASSERT_TRUE(comesTo(Theme::darkHighContrast));
 
     portal.change(appearance, "contrast", 0u);
@@ -160,11 +138,11 @@ TEST_F(AppearanceTest, HighContrastIsFollowedLive)
 
 TEST_F(AppearanceTest, ReducedMotionIsFollowedLive)
 {
-    FakePortal portal{bus.connection("portal")};
+    FakePortal portal;
     portal.groups["org.gnome.desktop.interface"]["enable-animations"] = false;
     QWidget widget;
     widget.show();
-    Appearance subject{bus.connection("program")};
+    Appearance subject{bus};
     EXPECT_TRUE(mayAnimate(widget));
 
     ASSERT_TRUE(QTest::qWaitFor([&] { return !mayAnimate(widget); }, patience));
@@ -177,18 +155,40 @@ TEST_F(AppearanceTest, ReducedMotionIsFollowedLive)
 
 TEST_F(AppearanceTest, APortalThatComesLaterIsHeard)
 {
-    Appearance subject{bus.connection("program")};
-    FakePortal portal{bus.connection("portal")};
+    Appearance subject{bus};
+    FakePortal portal;
     EXPECT_EQ(shownTheme(), Theme::light);
 
     portal.change(appearance, "color-scheme", 1u);
     ASSERT_TRUE(comesTo(Theme::dark));
 }
 
+TEST_F(AppearanceTest, ThePortalIsAskedAgainWhenTheBusIsBack)
+{
+    Appearance subject{bus};
+    {
+        FakePortal portal;
+        portal.change(appearance, "color-scheme", 1u);
+        ASSERT_TRUE(comesTo(Theme::dark));
+    }
+    const QSignalSpy lost{&bus, &SessionBus::lost};
+
+    Bus::current().stop();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return lost.size() == 1; }, patience));
+    EXPECT_EQ(shownTheme(), Theme::dark);
+    Bus::current().start();
+    FakePortal portal;
+    portal.groups[appearance]["color-scheme"] = 2u;
+
+    EXPECT_TRUE(comesTo(Theme::light));
+    portal.change(appearance, "color-scheme", 1u);
+    EXPECT_TRUE(comesTo(Theme::dark));
+}
+
 TEST_F(AppearanceTest, SettingsThatMeanNothingHereChangeNothing)
 {
-    FakePortal portal{bus.connection("portal")};
-    Appearance subject{bus.connection("program")};
+    FakePortal portal;
+    Appearance subject{bus};
     ASSERT_TRUE(QTest::qWaitFor([&] { return portal.questions == 1; }, patience));
     const auto before = QApplication::palette();
 
