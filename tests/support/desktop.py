@@ -236,7 +236,7 @@ class VirtualDesktop:
                 file.write(template.read().replace("@FONT@", self._font))
 
         self._start_x_server()
-        self._start_bus()
+        self.start_bus()
         if self._wm_kind == "xfwm4":
             self.run("xfwm4", f"--compositor={'on' if self._compositing else 'off'}", "--sm-client-disable")
         elif self._wm_kind == "openbox":
@@ -268,7 +268,8 @@ class VirtualDesktop:
                      f"{width}/{width // 4}x{height}/{height // 4}+{x}+{y}", "screen" if index == 0 else "none")
         self.ask("xsetroot", "-solid", "#2b3440" if self.dark else "#7c93ab", "-cursor_name", "left_ptr")
 
-    def _start_bus(self):
+    def start_bus(self):
+        """Starts the session bus, with accessibility and the settings portal."""
         address = f"unix:path={self.path('runtime/bus')}"
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
         self.bus_daemon = self.run("dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address={address}")
@@ -283,6 +284,12 @@ class VirtualDesktop:
             None).unpack()[0]), what="an accessibility bus")
         self.run("/usr/bin/python3", os.path.join(_HERE, "portal.py"), "1" if self.dark else "2")
         wait_for(lambda: self._has_owner("org.freedesktop.portal.Desktop"), what="the settings portal")
+
+    def stop_bus(self):
+        """Kills the session bus. All who end with it do, the panel bar among them."""
+        for process in (self._bus_daemon, self._listener, self.host):
+            process.kill()
+            process.wait()
 
     def start_host(self, kind=None):
         """Starts the panel bar and returns once it takes status items."""

@@ -1,0 +1,82 @@
+# SPDX-License-Identifier: MIT
+"""The countdown as a bar hears it, while session buses come and go."""
+import re
+import subprocess
+import threading
+import time
+
+from machine import time_queued
+
+_SIGNAL = re.compile(r"signal time=(\S+) ")
+_LABEL = re.compile(r'   string "(\d+):(\d\d)"')
+_MOMENT = 0.5  # s, in which one who waits for a processor holds up a tick
+
+
+class Countdown:
+    """Every second that an item announces: (when on the wall clock, seconds left). One is `speed` times as short as
+    elsewhere."""
+
+    def __init__(self, desktop, speed):
+        self._desktop, self._speed = desktop, speed
+        self.heard, self.phases = [], 0
+        self._breaks = []  # (from, to) on the wall clock: whatever was done then may have stopped the countdown
+        self._queued = []  # (when on the wall clock, for how long programs had waited for a processor)
+
+    def listen(self):
+        """To the session bus there is now, until it goes."""
+        process = subprocess.Popen(
+            ["dbus-monitor", "--session", "type='signal',interface='org.kde.StatusNotifierItem',member='XAyatanaNewLabel'"],
+            env=self._desktop.environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True)
+        threading.Thread(target=self._read, args=(process,), daemon=True).start()
+
+    def _read(self, process):
+        when = None
+        with process:
+            for line in process.stdout:
+                if found := _SIGNAL.match(line):
+                    when = float(found[1])
+                elif (found := _LABEL.fullmatch(line.rstrip())) and when:
+                    left = 60 * int(found[1]) + int(found[2])
+                    self.phases += left == 0
+                    self.heard.append((when, left))
+                    when = None  # what follows is the guide
+
+    @property
+    def goes_on(self):
+        return bool(self.heard) and time.time() - self.heard[-1][0] < 0.5
+
+    def touched(self, begin):
+        """What has been done from `begin` to now may have stopped or changed the countdown."""
+        self._breaks.append((begin, time.time() + 0.1))
+
+    def watch(self, pids):
+        """Notes how much a busy machine holds up these processes, until the end of this one."""
+        def sample():
+            while True:
+                self._queued.append((time.time(), time_queued(pids())))
+                time.sleep(_MOMENT / 5)
+        threading.Thread(target=sample, daemon=True).start()
+
+    def lateness(self):
+        """How late each second came that continues the one before, on the wall clock: (without the time for which a
+        processor was missing, with it)."""
+        heard, breaks, queued = list(self.heard), sorted(self._breaks), list(self._queued)
+        result, base, at, sample = [], None, 0, 0
+        for (before, more), (when, left) in zip(heard, heard[1:]):
+            while at < len(breaks) and breaks[at][1] < before:
+                at += 1
+            is_touched = at < len(breaks) and breaks[at][0] <= when
+            if is_touched or left >= more or when - before > 1:
+                base = None
+                continue
+            if base is None:
+                base = before + more / self._speed
+            due = base - left / self._speed
+            while sample + 1 < len(queued) and queued[sample][0] < when:
+                sample += 1
+            first = max(0, sample - 6)
+            held_up = max(0, queued[sample][1] - queued[first][1])  # less when a thread has ended
+            late = when - due
+            base = min(base, base + late)  # the earliest was in time
+            result.append((late - held_up, late))
+        return result
