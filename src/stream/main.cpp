@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "stream/Sandbox.h"
 #include "stream/StreamPlayback.h"
+#include "stream/VolumeLine.h"
 #include "stream/WebAddress.h"
 
 #include <sys/prctl.h>
 #include <unistd.h>
 
 #include <atomic>
-#include <charconv>
 #include <csignal>
 #include <cstdlib>
 #include <iostream>
@@ -42,11 +42,7 @@ int main()
     std::atomic<float> volume = 0;
     std::thread([&volume, url] { (new StreamPlayback(url, volume))->start(); }).detach();
 
-    for (std::string line; std::getline(std::cin, line);) {
-        float level = 0;
-        const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), level);
-        if (error == std::errc{} && end == line.data() + line.size())
-            volume = level;
-    }
+    for (std::string line; std::getline(std::cin, line);)
+        volume = volumeIn(line).value_or(volume);
     _exit(EXIT_SUCCESS);
 }

@@ -2,6 +2,7 @@
 #include "desktop/sound/ProcessStreamPlayer.h"
 
 #include "desktop/sound/AudioLog.h"
+#include "desktop/sound/StreamUrl.h"
 #include "platform/RunLoop.h"
 
 #include <QFileInfo>
@@ -14,15 +15,6 @@
 namespace velto {
 
 using std::chrono::steady_clock;
-
-namespace {
-
-bool isOnTheWeb(const QUrl& url)
-{
-    return (url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https")) && !url.host().isEmpty();
-}
-
-} // namespace
 
 void ProcessStreamPlayer::Killer::operator()(QProcess* process) const
 {
@@ -51,7 +43,7 @@ ProcessStreamPlayer::~ProcessStreamPlayer() = default;
 
 void ProcessStreamPlayer::setVolume(float volume)
 {
-    m_volume = volume > 0 ? std::min(volume, 1.0F) : 0.0F; // Also silent for what is no number.
+    m_volume = volume > 0 ? std::min(volume, 1.0F) : 0.0F; // NaN is silent, too.
     if (m_process)
         m_process->write(QByteArray::number(m_volume) + '\n');
 }

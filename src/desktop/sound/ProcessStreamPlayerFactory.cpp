@@ -2,8 +2,7 @@
 #include "desktop/sound/ProcessStreamPlayerFactory.h"
 
 #include "desktop/sound/ProcessStreamPlayer.h"
-
-#include <QUrl>
+#include "desktop/sound/StreamUrl.h"
 
 #include <utility>
 
@@ -20,24 +19,14 @@ ProcessStreamPlayerFactory::ProcessStreamPlayerFactory(std::filesystem::path pro
 {
 }
 
-namespace {
-
-/// As tolerant as the address bar of a browser.
-QUrl urlOf(const std::string& text)
-{
-    return QUrl(QString::fromStdString(text));
-}
-
-} // namespace
-
 bool ProcessStreamPlayerFactory::accepts(const std::string& url) const
 {
-    return urlOf(url).isValid();
+    return streamUrl(url).isValid();
 }
 
 std::unique_ptr<StreamPlayer> ProcessStreamPlayerFactory::makePlayer(const std::string& url)
 {
-    return std::make_unique<ProcessStreamPlayer>(urlOf(url), m_program, m_runLoop);
+    return std::make_unique<ProcessStreamPlayer>(streamUrl(url), m_program, m_runLoop);
 }
 
 } // namespace velto
