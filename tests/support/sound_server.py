@@ -23,6 +23,9 @@ context.spa-libs = {
 }
 """
 
+# The right to be served first, as every desktop gives it to PipeWire; without it the sound breaks up on a busy machine.
+_IN_TIME = "{ name = libpipewire-module-rt args = { nice.level = -11 rtportal.enabled = false } flags = [ ifexists nofail ] }"
+
 _DAEMON = _LIBRARIES + f"""
 context.properties = {{
     core.daemon = true
@@ -31,6 +34,7 @@ context.properties = {{
     support.dbus = false
 }}
 context.modules = [
+    {_IN_TIME}
     {{ name = libpipewire-module-protocol-native }}
     {{ name = libpipewire-module-access }}
     {{ name = libpipewire-module-metadata }}
@@ -48,14 +52,15 @@ context.objects = [
 ]
 """
 
-_PULSE_SERVER = _LIBRARIES + """
-context.properties = { support.dbus = false }
+_PULSE_SERVER = _LIBRARIES + f"""
+context.properties = {{ support.dbus = false }}
 context.modules = [
-    { name = libpipewire-module-protocol-native }
-    { name = libpipewire-module-client-node }
-    { name = libpipewire-module-adapter }
-    { name = libpipewire-module-metadata }
-    { name = libpipewire-module-protocol-pulse args = { server.address = [ "unix:SOCKET" ] } }
+    {_IN_TIME}
+    {{ name = libpipewire-module-protocol-native }}
+    {{ name = libpipewire-module-client-node }}
+    {{ name = libpipewire-module-adapter }}
+    {{ name = libpipewire-module-metadata }}
+    {{ name = libpipewire-module-protocol-pulse args = {{ server.address = [ "unix:SOCKET" ] }} }}
 ]
 """
 
