@@ -10,7 +10,7 @@ import sys
 
 LENGTH = 60
 CODECS = {
-    "tone.mp3": "lamemp3enc target=bitrate cbr=true bitrate=128",
+    "tone.mp3": "volume volume=1.0526 ! lamemp3enc target=bitrate cbr=true bitrate=128",  # LAME takes 5 % off
     "tone.aac": "avenc_aac bitrate=128000 ! aacparse ! audio/mpeg,stream-format=adts",
     "tone.ogg": "opusenc bitrate=96000 ! oggmux",
 }
