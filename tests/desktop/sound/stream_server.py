@@ -168,7 +168,7 @@ class Connection:
                 pieces = [TONE[i:i + interval] + block for i in range(0, len(TONE) - interval, interval)]
                 self.pour(b"".join(pieces))
             case "long-name":
-                self.head(icy_name="é" * 65536)
+                self.head(icy_name="é" * (1 << 20))
                 self.pour(TONE)
             case "playlist.m3u":
                 self.body("200 OK", "audio/x-mpegurl", f"#EXTM3U\n#EXTINF:60,Tone\nfile://{MATERIAL}/tone.mp3\n")
