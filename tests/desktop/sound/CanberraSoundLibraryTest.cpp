@@ -24,7 +24,7 @@ protected:
     void SetUp() override { application.startWatching(); }
     void TearDown() override
     {
-        EXPECT_LT(application.longestTurn(), 50ms);
+        EXPECT_TRUE(application.isNeverHeldUp()) << application.longestTurn().count() << " ms";
         const auto start = Clock::now();
         library.reset();
         EXPECT_LT(Clock::now() - start, 1s);

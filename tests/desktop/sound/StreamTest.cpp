@@ -20,7 +20,7 @@ void StreamTest::TearDown()
     dropPlayer();
     EXPECT_TRUE(eventually([&] { return streams.openConnections() == 0; }));
     EXPECT_TRUE(eventually([&] { return playing().empty(); }));
-    EXPECT_LT(application.longestTurn(), 50ms);
+    EXPECT_TRUE(application.isNeverHeldUp()) << application.longestTurn().count() << " ms";
 }
 
 void StreamTest::listenTo(const std::string& url)

@@ -16,7 +16,7 @@ namespace {
 /// For how long this thread was ready to go on, but without a processor: the second number of schedstat, see proc(5).
 std::chrono::nanoseconds timeQueued()
 {
-    static const int file = open("/proc/thread-self/schedstat", O_RDONLY | O_CLOEXEC);
+    thread_local const int file = open("/proc/thread-self/schedstat", O_RDONLY | O_CLOEXEC);
     char text[128] = {};
     if (pread(file, text, sizeof text - 1, 0) <= 0)
         return {};
@@ -43,32 +43,63 @@ std::chrono::milliseconds WatchedApplication::longestTurn() const
     return std::chrono::duration_cast<std::chrono::milliseconds>(m_longest);
 }
 
+void WatchedApplication::startWatching()
+{
+    m_longest = {};
+    m_hindrance = 0ns;
+}
+
+bool WatchedApplication::isNeverHeldUp() const
+{
+    return m_longest < 50ms + m_hindrance.load();
+}
+
 bool WatchedApplication::notify(QObject* receiver, QEvent* event)
 {
     const Turn turn(*this);
     return QCoreApplication::notify(receiver, event);
 }
 
-/// Counts the time that passes, but of a beat that comes too late only the usual delay.
+/// Beats every millisecond. Counts what a beat is late beyond the usual, and for how long it waits for a processor.
 void WatchedApplication::beat(const std::stop_token& stop)
 {
     constexpr std::chrono::nanoseconds usualDelay = 10ms;
-    for (auto last = std::chrono::steady_clock::now(); !stop.stop_requested();) {
+    constexpr int moment = 250;
+    auto queued = timeQueued();
+    for (auto last = ownTime(); !stop.stop_requested();) {
         std::this_thread::sleep_for(1ms);
-        const auto now = std::chrono::steady_clock::now();
-        m_machineTime = m_machineTime.load() + std::min<std::chrono::nanoseconds>(now - last, usualDelay);
+        m_hindrance = std::max(m_hindrance.load(), timeQueued() - queued);
+        if (m_beats % moment == 0)
+            queued = timeQueued();
+        const auto now = ownTime();
+        m_standstill = m_standstill.load() + std::max(now - last - usualDelay, 0ns);
         last = now;
+        ++m_beats;
     }
 }
 
-std::chrono::nanoseconds WatchedApplication::ownTime() const
+std::chrono::nanoseconds WatchedApplication::ownTime()
 {
-    return m_machineTime.load() - timeQueued();
+    return std::chrono::steady_clock::now().time_since_epoch() - timeQueued();
+}
+
+WatchedApplication::Turn::Turn(WatchedApplication& application) :
+    m_application(application),
+    m_start(ownTime()),
+    m_standstill(application.m_standstill)
+{
 }
 
 WatchedApplication::Turn::~Turn()
 {
-    m_application.m_longest = std::max(m_application.m_longest, m_application.ownTime() - m_start);
+    const auto length = ownTime() - m_start;
+    if (length <= m_application.m_longest)
+        return;
+    // Whether the machine stood still is known after the next beat.
+    for (const int beats = m_application.m_beats; m_application.m_beats == beats;)
+        std::this_thread::sleep_for(1ms);
+    m_application.m_longest
+        = std::max(m_application.m_longest, length - (m_application.m_standstill.load() - m_standstill));
 }
 
 } // namespace velto

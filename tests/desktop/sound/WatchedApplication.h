@@ -20,8 +20,11 @@ public:
     [[nodiscard]] static WatchedApplication& instance();
 
     /// Forgets all turns so far.
-    void startWatching() { m_longest = {}; }
+    void startWatching();
     [[nodiscard]] std::chrono::milliseconds longestTurn() const;
+    /// Whether no turn held up the next one. A turn that starts a process waits until that one has had a processor, so
+    /// that a limit has to be wider by what a thread waits for one at the worst moment.
+    [[nodiscard]] bool isNeverHeldUp() const;
 
     /// Measures `work` as if it were an event.
     template <class Work>
@@ -36,7 +39,7 @@ public:
 private:
     class Turn {
     public:
-        explicit Turn(WatchedApplication& application) : m_application(application), m_start(application.ownTime()) { }
+        explicit Turn(WatchedApplication& application);
         Turn(const Turn&) = delete;
         Turn& operator=(const Turn&) = delete;
         ~Turn();
@@ -44,14 +47,17 @@ private:
     private:
         WatchedApplication& m_application;
         std::chrono::nanoseconds m_start;
+        std::chrono::nanoseconds m_standstill;
     };
 
     void beat(const std::stop_token& stop);
-    /// Since some moment: how long this thread has been waiting, or computing on a machine that ran.
-    [[nodiscard]] std::chrono::nanoseconds ownTime() const;
+    /// Since some moment: how long the calling thread has been waiting or computing.
+    [[nodiscard]] static std::chrono::nanoseconds ownTime();
 
     std::chrono::nanoseconds m_longest{};
-    std::atomic<std::chrono::nanoseconds> m_machineTime{}; ///< Stands still with the machine.
+    std::atomic<std::chrono::nanoseconds> m_standstill{}; ///< For how long the machine did.
+    std::atomic<int> m_beats = 0;
+    std::atomic<std::chrono::nanoseconds> m_hindrance{}; ///< The longest wait for a processor during a moment.
     std::jthread m_heart;
 };
 

@@ -33,6 +33,9 @@ TEST_F(WatchedApplicationTest, SeesAnEventThatWaits)
     runInAnEvent([] { std::this_thread::sleep_for(100ms); });
     EXPECT_GE(application.longestTurn(), 60ms);
     EXPECT_LT(application.longestTurn(), 200ms);
+
+    runInAnEvent([] { std::this_thread::sleep_for(1s); });
+    EXPECT_FALSE(application.isNeverHeldUp());
 }
 
 TEST_F(WatchedApplicationTest, SeesAnEventThatComputes)
@@ -50,6 +53,7 @@ TEST_F(WatchedApplicationTest, TakesNoTimeWithoutEventsForATurn)
     application.startWatching();
     QTest::qWait(100);
     EXPECT_LT(application.longestTurn(), 20ms);
+    EXPECT_TRUE(application.isNeverHeldUp());
 }
 
 } // namespace
