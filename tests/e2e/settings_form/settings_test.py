@@ -236,7 +236,7 @@ class SettingsForm(unittest.TestCase):
         self.assertEqual(stored, expected)
 
     def test_card_and_form_stay_on_a_screen_that_gets_smaller(self):
-        with VirtualDesktop(monitors=[(1280, 800, 0, 0)]) as shrinking:
+        with VirtualDesktop() as shrinking:
             velto = shrinking.start_velto({})
             wait_for(lambda: velto.card_is_visible)
             shrinking.click_item()
