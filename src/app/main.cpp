@@ -41,7 +41,7 @@ namespace velto {
 
 namespace {
 
-/// The toolkit takes the class of all windows from the application's name at the time of the first one.
+/// Qt takes the class of all windows from the application's name when the first one is created.
 void setWindowClass(const QString& windowClass)
 {
     QApplication::setApplicationName(windowClass);
@@ -118,7 +118,7 @@ int run(QApplication& application)
 
 int main(int argc, char* argv[])
 {
-    // What is printed may be read by nobody any more.
+    // Standard output may have no reader any more.
     std::signal(SIGPIPE, SIG_IGN);
     if (const auto status = velto::answerBeforeStart(argc, argv))
         return *status;

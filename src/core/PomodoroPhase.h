@@ -8,7 +8,7 @@ namespace velto {
 
 enum class PomodoroPhase : std::int64_t { focus = 0, breakTime = 1 };
 
-/// Absent for a number that is no phase.
+/// Absent for a number that is not a phase.
 [[nodiscard]] constexpr std::optional<PomodoroPhase> pomodoroPhase(std::int64_t rawValue)
 {
     switch (rawValue) {

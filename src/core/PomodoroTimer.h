@@ -18,7 +18,7 @@ inline constexpr auto pomodoroSessionCompleted = "pomodoroSessionCompleted";
 
 /// Counts the current phase down once a second and moves on to the other phase at its end.
 ///
-/// A phase of N seconds ends on tick N + 1: it stands at zero for one second. Main thread only.
+/// A phase of N seconds ends on tick N + 1: it stays at zero for one second. Main thread only.
 class PomodoroTimer : public ObservableObject {
 public:
     /// Reads the durations and `autoTransition` from the settings, once. All must outlive this.
@@ -26,7 +26,7 @@ public:
 
     ReadOnlyPublished<std::int64_t, PomodoroTimer> remainingSeconds;
     ReadOnlyPublished<bool, PomodoroTimer> isRunning;
-    /// The phase has been started since it last stood at its full length.
+    /// Whether the phase has been started since it last had its full length.
     ReadOnlyPublished<bool, PomodoroTimer> hasStarted;
     ReadOnlyPublished<PomodoroPhase, PomodoroTimer> phase;
     /// Start the next phase at the end of one. Changes are written to the settings, never read back.
@@ -50,8 +50,8 @@ public:
     /// The same without touching the countdown, the running state or the music.
     void updateDurationsWithoutReset(std::int64_t focusMinutes, std::int64_t breakMinutes);
 
-    /// Opens the stream of the current phase. Where its music is off or has no address the player
-    /// is left as it is: who wants silence stops it first.
+    /// Opens the stream of the current phase. Leaves the player alone if that phase's music is
+    /// off or has no address; for silence, stop it first.
     void startMusicForCurrentPhase();
 
 private:

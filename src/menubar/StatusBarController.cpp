@@ -104,7 +104,7 @@ void StatusBarController::openSettings()
 {
     showTimer();
     NotificationCenter::defaultCenter().post(statusBarShowSettings);
-    // Who asks for the form wants to type into it.
+    // Whoever asks for the form wants to type into it.
     m_panelController->panel().makeKey();
 }
 

@@ -20,7 +20,7 @@ inline constexpr auto statusBarOpenMenu = "StatusBarOpenMenu";
 
 /// The program's presence in the panel bar: the time as the status item's title, its clicks, its menu.
 ///
-/// Nothing is remembered: whenever the timer changes, all of it is read again in the next turn. Main thread only.
+/// Caches nothing: whenever the timer changes, everything is read again in the next turn. Main thread only.
 class StatusBarController {
 public:
     struct Desktop {

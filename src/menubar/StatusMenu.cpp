@@ -56,14 +56,14 @@ std::shared_ptr<Menu> makeMenu(std::string title)
     return menu;
 }
 
-/// Returns whether the field had another value before.
+/// Returns whether that changed the field.
 template <class Field, class Value>
 bool assign(Field& field, Value value)
 {
     return std::exchange(field, std::move(value)) != field;
 }
 
-/// Marks the choices that stand for what is so now. Returns whether a mark came or went.
+/// Marks the current choices. Returns whether a mark came or went.
 template <class Value, class IsCurrent>
 bool mark(const Menu& menu, IsCurrent isCurrent)
 {

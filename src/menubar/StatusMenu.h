@@ -21,7 +21,7 @@ class WindowController;
 
 /// The menu of the status item: built once, with its actions, and the marks that follow timer and settings.
 ///
-/// Nothing is remembered: every refresh recomputes titles and marks. Main thread only.
+/// Caches nothing: every refresh recomputes titles and marks. Main thread only.
 class StatusMenu {
 public:
     struct Desktop {
@@ -38,10 +38,10 @@ public:
     StatusMenu& operator=(const StatusMenu&) = delete;
     ~StatusMenu();
 
-    /// The same for the life of this; its actions must not be used later.
+    /// Always the same one. Its actions must not be used once this is gone.
     [[nodiscard]] const std::shared_ptr<Menu>& menu() const { return m_menu; }
 
-    /// Absent arguments stand for what the timer shows now.
+    /// An absent argument stands for what the timer shows now.
     void refreshMenuItems(std::optional<std::int64_t> currentRemaining = {}, std::optional<PomodoroPhase> phase = {});
 
     /// Stores the choices; the stream of a running phase follows at once.
@@ -60,7 +60,7 @@ private:
     void toggleAutoTransition();
     void show(WindowController& controller);
 
-    // Return whether a host would show the menu otherwise now.
+    // Return whether the menu now looks different.
     bool updateTimerItems(std::int64_t currentRemaining, PomodoroPhase phase);
     bool updateMarks();
 

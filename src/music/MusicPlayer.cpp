@@ -8,7 +8,7 @@ namespace velto {
 
 namespace {
 
-/// An address as one line, whatever is in it.
+/// The address on one line, whatever it contains.
 std::string inOneLine(const std::string& url)
 {
     std::string line;

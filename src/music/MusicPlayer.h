@@ -12,7 +12,7 @@ namespace velto {
 
 /// Plays one Internet audio stream at a time.
 ///
-/// Says what was asked for, not what is heard: a stream that can't be reached plays, silently.
+/// Reports what was asked for, not what is heard: a stream that can't be reached plays, silently.
 /// Main thread only.
 class MusicPlayer : public ObservableObject {
 public:
@@ -24,7 +24,7 @@ public:
     /// The address given to the last successful `play()`; absent after `stop()`.
     ReadOnlyPublished<std::optional<std::string>, MusicPlayer> currentURL{*this, std::nullopt};
 
-    /// Stops what plays, then opens `url` anew, even if it is the one that plays. An unusable
+    /// Stops what is playing, then opens `url` anew, even if that was playing. An unusable
     /// address leaves the player stopped. Reports either on standard output.
     /// `volume`: linear amplitude, handed on as it is.
     void play(const std::string& url, float volume);

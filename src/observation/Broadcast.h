@@ -14,8 +14,8 @@ namespace velto {
 /// Delivers a value to every subscriber, in the order of subscription.
 ///
 /// Main thread only. Subscribing, dropping a subscription, sending again and destroying the
-/// broadcast are all allowed during a delivery. Who is dropped hears nothing more of it; who
-/// joins is reached by the delivery under way. Subscriptions may outlive the broadcast.
+/// broadcast are all allowed during a delivery. A dropped subscriber hears nothing more of
+/// it; a new one is reached by the delivery under way. Subscriptions may outlive the broadcast.
 template <class... Args>
 class Broadcast {
 public:

@@ -9,7 +9,7 @@
 
 namespace velto {
 
-/// A value whose observers hear of every assignment before it is stored; who may assign it, a derived class says.
+/// A value whose observers hear of every assignment before it is stored. Derived classes decide who may assign it.
 ///
 ///     const auto shown = timer.phase.changes([](PomodoroPhase phase) { show(phase); });      // now and later
 ///     const auto heard = timer.phase.laterChanges([](PomodoroPhase phase) { ring(phase); }); // later only
@@ -21,7 +21,7 @@ class PublishedValue {
 public:
     using Handler = std::function<void(const T&)>;
 
-    /// `owner` announces each change too, first of all; it must outlive this.
+    /// `owner` announces each change first; it must outlive this.
     PublishedValue(ObservableObject& owner, T initial) : m_owner(owner), m_value(std::move(initial)) { }
     PublishedValue(const PublishedValue&) = delete;
     PublishedValue& operator=(const PublishedValue&) = delete;
@@ -31,7 +31,7 @@ public:
     /// `handler` gets the current value at once and every new one after it.
     Subscription changes(Handler handler) const
     {
-        // One for all calls: it may keep state.
+        // One copy for all calls, since it may keep state.
         const auto observer = std::make_shared<Handler>(std::move(handler));
         auto subscription = laterChanges([observer](const T& value) { (*observer)(value); });
         (*observer)(m_value);
@@ -44,7 +44,7 @@ public:
 protected:
     ~PublishedValue() = default;
 
-    /// Notifies, then stores. During the notification reading still gives the old value.
+    /// Notifies, then stores: during the notification, reading still gives the old value.
     void assign(T value)
     {
         m_owner.m_willChange.send();
@@ -58,7 +58,7 @@ private:
     T m_value;
 };
 
-/// A published value that everybody may assign.
+/// A published value that anyone may assign.
 template <class T>
 class Published : public PublishedValue<T> {
 public:
@@ -67,7 +67,7 @@ public:
     void set(T value) { this->assign(std::move(value)); }
 };
 
-/// A published value that only its owner assigns.
+/// A published value that only its owner may assign.
 template <class T, class Owner>
 class ReadOnlyPublished : public PublishedValue<T> {
 public:

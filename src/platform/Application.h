@@ -21,9 +21,9 @@ public:
 
     /// Brings the program to the foreground, whatever is there.
     virtual void activate() = 0;
-    /// Ends the event loop; the process then leaves with status 0.
+    /// Ends the event loop; the process then exits with status 0.
     virtual void terminate() = 0;
-    /// The click being handled. Absent outside of one.
+    /// The click being handled. Absent when there is none.
     [[nodiscard]] virtual std::optional<ClickEvent> currentEvent() const = 0;
 };
 

@@ -7,13 +7,13 @@
 
 namespace velto {
 
-/// What the installed program says of itself.
+/// What the installed program says about itself.
 class Bundle {
 public:
     virtual ~Bundle() = default;
 
     /// Known keys: "CFBundleName", "CFBundleShortVersionString", "CFBundleVersion". Absent when
-    /// there is no such key or its value is no string.
+    /// there is no such key or its value is not a string.
     [[nodiscard]] virtual std::optional<std::string> string(std::string_view key) const = 0;
 };
 

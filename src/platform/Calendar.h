@@ -8,7 +8,7 @@ class Calendar {
 public:
     virtual ~Calendar() = default;
 
-    /// The year of this moment, in the user's time zone.
+    /// The current year in the user's time zone.
     [[nodiscard]] virtual int currentYear() const = 0;
 };
 

@@ -12,7 +12,7 @@ namespace velto {
 
 using Blob = std::vector<std::uint8_t>;
 
-/// A stored value. Types are kept apart: an integer 1 is not a Boolean, a float 25.0 is no integer.
+/// A stored value. Types are kept apart: an integer 1 is not a Boolean, a float 25.0 is not an integer.
 using StoredValue = std::variant<std::int64_t, bool, float, std::string, Blob>;
 
 /// The user's persistent values. Main thread only.

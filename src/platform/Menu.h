@@ -19,13 +19,13 @@ struct Symbol {
     bool operator==(const Symbol&) const = default;
 };
 
-/// One entry of a menu. Plain values: whoever shows the menu reads them, nobody is told of changes.
+/// One entry of a menu. Plain values: whoever shows the menu reads them; changes are not announced.
 struct MenuItem {
     using Action = std::function<void(const MenuItem&)>;
 
     std::string title;
     bool isSeparator = false;
-    bool isCheckable = false; ///< May have a check mark at some time.
+    bool isCheckable = false; ///< May get a check mark.
     bool isOn = false;        ///< Has a check mark now.
     bool isHidden = false;
     bool isEnabled = true;

@@ -14,7 +14,7 @@ namespace velto {
 ///     m_refresh.request();
 ///     m_refresh.request(); // one refresh for both
 ///
-/// What still waits when it goes is dropped. The work must not destroy it. Main thread only.
+/// A request that is pending when this is destroyed is dropped. The work must not destroy it. Main thread only.
 class OncePerTurn {
 public:
     /// `runLoop` must outlive this.
@@ -30,7 +30,7 @@ public:
 
     void cancel() { m_turn.cancel(); }
 
-    /// Does the work at once, whether it was asked for or not; nothing waits then.
+    /// Does the work now, requested or not; nothing is pending afterwards.
     void runNow()
     {
         m_turn.cancel();

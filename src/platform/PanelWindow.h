@@ -5,7 +5,7 @@
 
 namespace velto {
 
-/// The floating card: above other windows, on every workspace, never taking the keyboard by being shown.
+/// The floating card: above other windows, on every workspace. Showing it never takes the keyboard.
 class PanelWindow {
 public:
     virtual ~PanelWindow() = default;
@@ -19,7 +19,7 @@ public:
     /// Gives it the keyboard, or the sheet on it while there is one, until it is left or hidden. What had the
     /// keyboard then has it again. No effect while hidden.
     virtual void makeKey() = 0;
-    /// The user asks to see it. Gives it the keyboard where only the loss of that tells that the user has gone
+    /// The user asked to see it. Gives it the keyboard where only losing that shows that the user has gone
     /// elsewhere.
     virtual void makeKeyIfNeeded() = 0;
 };

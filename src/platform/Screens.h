@@ -11,7 +11,7 @@ namespace velto {
 
 struct Screen {
     Rect frame;        ///< All of it.
-    Rect visibleFrame; ///< Less panel bars and docks.
+    Rect visibleFrame; ///< Without panel bars and docks.
     bool operator==(const Screen&) const = default;
 };
 
@@ -24,7 +24,7 @@ public:
     [[nodiscard]] virtual std::optional<Screen> mainScreen() const = 0;
     /// The screen that holds the middle of `rect`, else absent.
     [[nodiscard]] virtual std::optional<Screen> screenOf(const Rect& rect) const = 0;
-    /// Runs `changed` after screens have come or gone, or have other rectangles.
+    /// Runs `changed` after screens were added, removed, moved or resized.
     virtual Subscription changes(std::function<void()> changed) = 0;
 };
 

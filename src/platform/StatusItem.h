@@ -26,7 +26,7 @@ public:
     /// application's current event.
     virtual void setAction(std::function<void()> action) = 0;
 
-    /// Where it stands on the screen. Absent while that is not known.
+    /// Where it is on the screen. Absent while that is unknown.
     [[nodiscard]] virtual std::optional<Rect> frame() const = 0;
 };
 
@@ -41,7 +41,7 @@ public:
     /// The menu that a panel host shows by itself on a right click.
     virtual void setMenu(std::shared_ptr<Menu> menu) = 0;
 
-    /// Says that values in the menu may have changed; what is on show follows within a turn.
+    /// Says that values in the menu may have changed; an open menu follows within a turn.
     virtual void menuDidChange() = 0;
 
     /// Opens the menu under the item, after calling its `willOpen`, and returns at once.

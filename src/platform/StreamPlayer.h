@@ -15,7 +15,7 @@ public:
     /// are accepted and limited to it.
     virtual void setVolume(float volume) = 0;
 
-    /// Opens the stream, if its address is one of the web (http or https), else nothing. Until `pause()` the player
+    /// Opens the stream if its address is on the web (http or https), else does nothing. Until `pause()` the player
     /// reconnects by itself after any failure.
     virtual void play() = 0;
 
@@ -27,7 +27,7 @@ class StreamPlayerFactory {
 public:
     virtual ~StreamPlayerFactory() = default;
 
-    /// Whether a URL can be made of `url`.
+    /// Whether `url` can be read as a URL.
     [[nodiscard]] virtual bool accepts(const std::string& url) const = 0;
 
     /// `url` must be one that is accepted. Never null.

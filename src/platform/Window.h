@@ -7,7 +7,7 @@
 
 namespace velto {
 
-/// A window that takes the focus when it is shown, and that closing only hides.
+/// A window that takes the focus when shown, and is only hidden when closed.
 ///
 /// Dropping this object leaves a visible window on the screen until the user closes it.
 class Window {

@@ -10,7 +10,7 @@ class Workspace {
 public:
     virtual ~Workspace() = default;
 
-    /// Opens `url` with the desktop's handler for it; a string that is no URL does nothing.
+    /// Opens `url` with the desktop's handler for it; a string that is not a URL does nothing.
     virtual void open(const std::string& url) = 0;
 };
 

@@ -25,7 +25,7 @@ Blob encodeJsonString(std::string_view text)
 
 std::optional<std::string> decodeJsonString(const Blob& blob)
 {
-    // The parser takes a NUL for the end.
+    // The parser takes a NUL for the end of its input.
     if (std::ranges::find(blob, 0) != blob.end())
         return std::nullopt;
     const auto value = nlohmann::json::parse(blob, nullptr, /*allow_exceptions=*/false);

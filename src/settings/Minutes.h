@@ -6,7 +6,7 @@
 
 namespace velto {
 
-/// Whether a number of minutes can be counted in seconds. One that can't counts as unreadable wherever it is read.
+/// Whether a number of minutes still fits when counted in seconds. One that doesn't counts as unreadable everywhere.
 [[nodiscard]] constexpr bool minutesFitSeconds(std::int64_t minutes)
 {
     using Limits = std::numeric_limits<std::int64_t>;

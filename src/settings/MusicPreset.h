@@ -20,10 +20,10 @@ inline constexpr std::array allMusicPresets{
     MusicPreset::custom,
 };
 
-/// The text shown and the stored value at once.
+/// Serves as both the text shown and the stored value.
 [[nodiscard]] std::string_view rawValue(MusicPreset preset);
 
-/// Absent for a text that is not exactly a raw value.
+/// Absent unless `text` is exactly a raw value.
 [[nodiscard]] std::optional<MusicPreset> musicPreset(std::string_view rawValue);
 
 /// Address of the stream; empty for `custom`, whose address the user types.

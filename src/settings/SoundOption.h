@@ -44,10 +44,10 @@ inline constexpr std::array allSoundOptions{
     SoundOption::tink,
 };
 
-/// The text shown, the sound's name and the stored value at once.
+/// Serves as the text shown, the sound's name and the stored value.
 [[nodiscard]] std::string_view rawValue(SoundOption sound);
 
-/// Absent for a text that is not exactly a raw value.
+/// Absent unless `text` is exactly a raw value.
 [[nodiscard]] std::optional<SoundOption> soundOption(std::string_view rawValue);
 
 } // namespace velto

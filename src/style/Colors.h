@@ -41,7 +41,7 @@ enum class Theme { light, dark, lightHighContrast, darkHighContrast };
 
 [[nodiscard]] bool isHighContrast(const QPalette& palette);
 
-/// The theme for whatever the toolkit draws by itself. It looks the same in windows that are not active.
+/// The palette for whatever Qt draws by itself. It looks the same in windows that are not active.
 [[nodiscard]] QPalette paletteFor(Theme theme);
 
 /// `amount` of `b` in `a`, from 0 to 1.

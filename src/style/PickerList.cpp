@@ -97,7 +97,7 @@ bool PickerList::eventFilter(QObject* watched, QEvent* event)
             return true;
         }
         if (event->type() == QEvent::Show) {
-            // Newer versions of the toolkit leave the highlight where it was when the list was left.
+            // Newer versions of Qt leave the highlight where it was when the list was left.
             setCurrentIndex(model()->index(m_picker.currentIndex(), 0));
             placeCard();
             cutCard();

@@ -36,7 +36,7 @@ PopUpPicker::PopUpPicker(const QString& title)
     setAccessibleDescription(title);
     followFont(*this, [] { return textFont(TextStyle::body); });
     setAttribute(Qt::WA_Hover);
-    // As long as the screen allows, which the toolkit sees to.
+    // As long as the screen allows, which Qt sees to.
     setMaxVisibleItems(std::numeric_limits<int>::max());
     new PickerList(*this);
 }

@@ -69,7 +69,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (setting() != settingAgain())
             std::abort();
     });
-    // Not a number is what it was, too.
+    // NaN stays NaN.
     const float volume = settings.musicVolume();
     const float volumeAgain = settingsAgain.musicVolume();
     if (volume != volumeAgain && !(volume != volume && volumeAgain != volumeAgain))

@@ -7,18 +7,18 @@
 
 namespace velto {
 
-/// A connection to the session bus that is made anew when the bus has gone and is there again.
+/// A connection to the session bus that is made again when the bus comes back after it was lost.
 ///
-/// In a session that never had a bus nothing is tried again. Main thread only.
+/// Does not try again in a session that never had a bus. Main thread only.
 class SessionBus final : public QObject {
     Q_OBJECT
 
 public:
-    /// `name` is the connection's within the program; no other may have it.
+    /// `name` identifies the connection within the program and must be unique there.
     explicit SessionBus(QString name);
     ~SessionBus() override;
 
-    /// Not connected while there is no bus. Another one after each `found()`, on which nothing is registered yet.
+    /// Not connected while there is no bus. A new one after each `found()`, with nothing registered on it.
     [[nodiscard]] QDBusConnection connection() const { return QDBusConnection(m_name); }
 
 Q_SIGNALS:

@@ -7,10 +7,10 @@ namespace velto {
 
 /// The program as assistive technology sees it: its windows, and the menu that is open.
 ///
-/// The toolkit lists pop-ups under the widget that they belong to. A menu of the panel bar belongs to none.
+/// Qt lists a pop-up under the widget it belongs to. A menu of the panel bar belongs to none.
 class AccessibleApplication final : public QAccessibleApplication {
 public:
-    /// Takes the place of the toolkit's. Needed once, before anybody has asked for the tree.
+    /// Replaces Qt's own. To be called once, before anybody asks for the tree.
     static void install();
 
     [[nodiscard]] int childCount() const override;

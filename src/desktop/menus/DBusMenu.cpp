@@ -16,7 +16,7 @@ namespace velto {
 
 namespace {
 
-/// Hosts choose the ground, light or dark; this is seen on both.
+/// Hosts choose the background, light or dark; this shows on both.
 const QColor symbolColor(0x80, 0x80, 0x80);
 constexpr double symbolSide = 16;
 constexpr double symbolRatio = 2;
@@ -335,7 +335,7 @@ bool DBusMenu::handleEvent(int id, const QString& name)
             m_handlers.closed();
     } else if (name == QLatin1String("clicked")) {
         m_handlers.closed();
-        // Later: the host waits for the reply, and what the entry does may take its time.
+        // Later: the host waits for the reply, and the action may take a while.
         QTimer::singleShot(0, this, [item = node->second.item] {
             if (item->action && item->isEnabled && !item->isHidden)
                 item->action(*item);

@@ -22,7 +22,7 @@ inline const QString statusMenuPath = QStringLiteral("/MenuBar");
 ///
 /// Keeps a picture of the menu as the hosts know it, and tells them the difference when it changes.
 /// Entries keep their number for as long as they are in the menu; 0 is the menu itself. However many
-/// questions come, the rest of the program has its turn between the answers. Main thread only.
+/// calls come, the rest of the program gets its turn between the answers. Main thread only.
 class DBusMenu : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
@@ -33,7 +33,7 @@ class DBusMenu : public QObject, protected QDBusContext {
     Q_PROPERTY(QStringList IconThemePath READ iconThemePath)
 
 public:
-    /// What hosts say; not every host says everything.
+    /// What hosts report; not every host reports everything.
     struct Handlers {
         std::function<void()> requested; ///< It may be about to show the menu.
         std::function<void()> opened;
@@ -82,7 +82,7 @@ private:
     QList<int> addNodes(Nodes& nodes, const std::vector<std::shared_ptr<MenuItem>>& items);
     [[nodiscard]] int idOf(const std::shared_ptr<MenuItem>& item);
     void announce(const Nodes& before);
-    /// Sends `reply` to the question being handled, perhaps later; what the slot returns is not sent.
+    /// Sends `reply` to the question being handled, perhaps later; the slot's return value is not sent.
     void answer(std::function<QDBusMessage(const QDBusMessage&)> reply);
     [[nodiscard]] DBusMenuLayout layoutOf(int id, int depth, const QStringList& propertyNames) const;
     bool handleEvent(int id, const QString& name);

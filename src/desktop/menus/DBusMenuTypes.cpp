@@ -90,7 +90,7 @@ void registerDBusMenuTypes()
     qDBusRegisterMetaType<DBusMenuLayout>();
     qDBusRegisterMetaType<DBusMenuEvent>();
     qDBusRegisterMetaType<DBusMenuEvents>();
-    // The bus library looks parameters up by the names they are declared with.
+    // QtDBus looks parameters up by the type names in their declaration.
     qRegisterMetaType<DBusMenuItems>("velto::DBusMenuItems");
     qRegisterMetaType<DBusMenuItemKeysList>("velto::DBusMenuItemKeysList");
     qRegisterMetaType<DBusMenuEvents>("velto::DBusMenuEvents");

@@ -47,7 +47,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuLayout& l
 QDBusArgument& operator<<(QDBusArgument& argument, const DBusMenuEvent& event);
 const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuEvent& event);
 
-/// Makes the structures known to the bus library; needed once before they are used.
+/// Registers the structures with QtDBus. To be called once, before they are used.
 void registerDBusMenuTypes();
 
 } // namespace velto

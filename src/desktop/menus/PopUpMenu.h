@@ -33,12 +33,12 @@ public:
     ~PopUpMenu() override;
 
     void setMenu(std::shared_ptr<Menu> menu) { m_menu = std::move(menu); }
-    /// Values in the menu may have changed; what is on show follows in the next turn.
+    /// Values in the menu may have changed; an open menu follows in the next turn.
     void menuDidChange();
 
     /// Opens the menu, or does nothing while it is open: below `anchor`, above it where the screen ends.
     /// Returns at once. As long as a mouse button is held the menu waits, since the press belongs to
-    /// somebody else. `anchor` is in the toolkit's coordinates.
+    /// somebody else. `anchor` is in Qt's coordinates.
     void popUp(const QRect& anchor);
     [[nodiscard]] bool isOpen() const { return m_shown != nullptr; }
 

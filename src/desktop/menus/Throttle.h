@@ -8,15 +8,15 @@
 
 namespace velto {
 
-/// Runs works in order: at once as long as they are few, else some every 10 ms, so that everything else
-/// has its turn in between. Main thread only.
+/// Runs work in order: at once as long as there is little of it, else some every 10 ms, so that everything
+/// else gets its turn in between. Main thread only.
 class Throttle {
 public:
     static constexpr int mostWaiting = 10'000;
 
     Throttle();
 
-    /// False when too many works wait already; then `work` is dropped.
+    /// False when too much work is waiting already; `work` is then dropped.
     [[nodiscard]] bool run(std::function<void()> work);
 
 private:

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t mostPending = 1 << 20;
 
-/// Whether a write of up to PIPE_BUF bytes does not wait; to nobody it doesn't either.
+/// Whether a write of up to PIPE_BUF bytes returns at once, as it also does when nobody reads any more.
 bool canWrite(int fileDescriptor)
 {
     pollfd descriptor{fileDescriptor, POLLOUT, 0};

@@ -5,7 +5,7 @@
 
 namespace velto {
 
-/// What the build was told of the program: its name, version and build number.
+/// What the build knows about the program: its name, version and build number.
 class BuildBundle final : public Bundle {
 public:
     [[nodiscard]] std::optional<std::string> string(std::string_view key) const override;

@@ -7,10 +7,10 @@
 
 namespace velto {
 
-/// Lets the program end well when the system tells it to: the first SIGTERM, SIGINT or SIGHUP calls a handler
+/// Lets the program end cleanly when it is told to: the first SIGTERM, SIGINT or SIGHUP calls a handler
 /// on the main thread, a second one of its kind ends the process at once. Ignored ones stay ignored.
 ///
-/// Once in a process. What comes after this has gone is taken for a part of the end that goes on.
+/// One per process. A signal that comes after this is gone counts as part of the shutdown under way.
 class EndSignals {
 public:
     explicit EndSignals(const std::function<void()>& handler);

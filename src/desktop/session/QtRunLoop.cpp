@@ -20,7 +20,7 @@ namespace velto {
 
 namespace {
 
-/// Work to be done at a moment, and then perhaps again at a fixed interval from that moment.
+/// Work to be done at a given time, and perhaps at fixed intervals from then on.
 class Job final : public QObject {
 public:
     /// An `interval` of zero means once.

@@ -7,7 +7,7 @@
 
 namespace velto {
 
-/// The event loop of the application. Works run in nested loops (menus, drags) too.
+/// The event loop of the application. Work runs in nested loops (menus, drags), too.
 class QtRunLoop final : public RunLoop {
 public:
     Subscription every(std::chrono::milliseconds interval, std::function<void()> work) override;

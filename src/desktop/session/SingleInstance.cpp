@@ -56,7 +56,7 @@ std::optional<int> SingleInstance::claim()
     if (!bus.isConnected())
         return std::nullopt;
 
-    // Before the name: who owns it can be called at once.
+    // Before the name: its owner can be called at once.
     bus.registerObject(objectPath, this, QDBusConnection::ExportAllSlots);
     while (true) {
         const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply
@@ -70,7 +70,7 @@ std::optional<int> SingleInstance::claim()
         const QDBusError error{bus.call(call, QDBus::Block, answerTimeout)};
         if (!error.isValid())
             return 0;
-        // One that has ended meanwhile has left the name to us.
+        // If it has ended meanwhile, the name is free.
         if (owner.isEmpty() || !bus.interface()->isServiceRegistered(owner))
             continue;
         const bool isStranger = error.type() != QDBusError::NoReply && error.type() != QDBusError::Timeout;

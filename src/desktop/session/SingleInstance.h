@@ -11,7 +11,7 @@ namespace velto {
 
 class SessionBus;
 
-/// Keeps the program to one instance a session, by owning its name on the session bus.
+/// Keeps the program to one instance per session by owning its name on the session bus.
 ///
 /// Other launches, of the desktop entry too, reach the owner as org.freedesktop.Application calls.
 class SingleInstance final : public QObject {
@@ -20,7 +20,7 @@ class SingleInstance final : public QObject {
 
 public:
     /// `activated` runs for every later launch, from the event loop.
-    /// `bus` must outlive this; the name is taken again when the bus is there again.
+    /// `bus` must outlive this; the name is taken again when the bus is back.
     SingleInstance(SessionBus& bus, std::function<void()> activated);
     ~SingleInstance() override;
 

@@ -84,7 +84,7 @@ private:
     QString m_toolTip;
     QFont m_font;
     bool m_appearsDisabled = false;
-    std::optional<QRect> m_lastAnchor; ///< In the toolkit's coordinates.
+    std::optional<QRect> m_lastAnchor; ///< In Qt's coordinates.
 };
 
 } // namespace velto

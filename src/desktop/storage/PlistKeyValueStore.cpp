@@ -47,7 +47,7 @@ public:
         m_changed.notify_all();
     }
 
-    /// Tries once more what could not be written. False when it is still at it after `limit`.
+    /// Tries once more to write what could not be written. False when that takes longer than `limit`.
     bool finish(std::chrono::milliseconds limit)
     {
         const auto end = std::chrono::steady_clock::now() + limit;

@@ -51,7 +51,7 @@ std::optional<Number> numberOf(std::string_view text)
 }
 
 /// The text of a number element in the only spelling that libplist reads as it is meant; absent when it is
-/// no number.
+/// not a number.
 std::optional<std::string> plainNumber(std::string_view tag, std::string_view text)
 {
     text = trimmed(text);
@@ -66,7 +66,7 @@ std::optional<std::string> plainNumber(std::string_view tag, std::string_view te
     return std::nullopt;
 }
 
-/// libplist takes what begins like a number for one, and anything else for zero. Here what is no number
+/// libplist takes what begins like a number for one, and anything else for zero. Here what is not a number
 /// becomes an array that holds the text: no StoredValue, and not lost.
 std::string withPlainNumbers(std::string_view xml)
 {

@@ -30,7 +30,7 @@ public:
     /// written as XML, or exceed the maximum size or depth.
     [[nodiscard]] static std::optional<PropertyList> parse(std::string_view bytes);
 
-    /// Absent when there is nothing under `key`, or something that is no StoredValue: an integer past
+    /// Absent when there is nothing under `key`, or something that is not a StoredValue: an integer past
     /// 64 signed bits, a real past the range of a float, "30x" for a number, text with a NUL, a date, an array,
     /// a dictionary.
     [[nodiscard]] std::optional<StoredValue> value(std::string_view key) const;

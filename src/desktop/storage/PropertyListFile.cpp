@@ -26,7 +26,7 @@ constexpr std::string_view temporaryMark = ".tmp-";
     throw std::system_error(error, std::generic_category());
 }
 
-/// Makes a system call until no signal interrupts it; -1 when it fails.
+/// Repeats a system call as long as signals interrupt it; -1 when it fails.
 template <class Call>
 auto uninterrupted(const Call& call)
 {
@@ -117,7 +117,7 @@ void makeFolder(const fs::path& folder)
 /// Absent when there is no file. Stops once it is too long for a property list.
 std::optional<std::string> contentOf(const fs::path& path)
 {
-    // Not blocking, for what is no plain file.
+    // Non-blocking, in case it is not a regular file.
     const File file{uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); })};
     if (!file.isOpen()) {
         if (errno == ENOENT)

@@ -13,7 +13,7 @@ namespace velto {
 /// A property list on disk that other processes may change too.
 ///
 /// A change is put into what the file holds at that moment, under a lock on its folder, and replaces the
-/// file atomically and durably. A file that was read to its end and is no property list is moved aside
+/// file atomically and durably. A file that was read to its end and is not a property list is moved aside
 /// first, as "<name>.corrupt-<time>"; one that can't be read stays where it is. A symbolic link stays one:
 /// its target is replaced. Waits for the disk; one thread at a time.
 class PropertyListFile {
@@ -23,7 +23,7 @@ public:
     /// `path` is absolute; folders that are missing are made with the first change.
     explicit PropertyListFile(std::filesystem::path path);
 
-    /// What the file holds; empty when there is none, or it can't be read now, or is no property list.
+    /// What the file holds; empty when there is none, or it can't be read now, or is not a property list.
     /// Removes what a killed process left of its writing.
     [[nodiscard]] PropertyList load();
 

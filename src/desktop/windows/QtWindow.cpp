@@ -25,7 +25,7 @@ namespace {
 /// Height kept free for the title bar, which is not known before the window manager has drawn it.
 constexpr int titleBarAllowance = 40;
 
-/// The toolkit puts the program's name where a title is empty. This leaves the title bar blank, with a title
+/// Qt puts the program's name where a title is empty. This leaves the title bar blank, with a title
 /// that draws nothing: window lists would call a window without one untitled.
 void hideTitle(const QWidget& window)
 {
@@ -38,7 +38,7 @@ void hideTitle(const QWidget& window)
             noBreakSpace.size(), noBreakSpace.data());
 }
 
-/// Drawn here: how the toolkit reads such a picture by itself is a plug-in that may not be installed.
+/// Drawn here: what lets Qt read such a picture by itself is a plug-in that may not be installed.
 QIcon applicationIcon()
 {
     QSvgRenderer picture(QStringLiteral(":/icons/org.velto.Velto.svg"));

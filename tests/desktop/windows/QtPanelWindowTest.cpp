@@ -79,7 +79,7 @@ protected:
         return x11::property(id(), x11::atom("_NET_WM_DESKTOP")) == std::vector<std::uint32_t>{0xffffffff};
     }
 
-    /// For the server: the toolkit may count on it before it is so.
+    /// For the server: Qt may take it for done before it is.
     [[nodiscard]] bool hasKeyboard() const
     {
         auto* connection = x11::connection();
