@@ -14,6 +14,8 @@ namespace velto {
 namespace {
 
 constexpr int viewHeight = 68;
+/// Between two digits that fill their cells, in parts of the font's size.
+constexpr double gap = 0.06;
 /// How far a digit rolls, in parts of the font's size: past the one that follows it.
 constexpr double rollDistance = 0.8;
 /// The part of the view next to its upper and lower edge where digits that roll fade.
@@ -32,11 +34,11 @@ QBrush fadingAtTheEdges(const QColor& color)
 
 } // namespace
 
-RollingTime::RollingTime(int width)
+RollingTime::RollingTime(int width) : m_glyphs(clockFont(m_fontSize), gap)
 {
     setFixedSize(width, viewHeight);
     onFontChange(*this, [this] {
-        m_glyphs = ClockGlyphs(clockFont(m_fontSize));
+        m_glyphs = ClockGlyphs(clockFont(m_fontSize), gap);
         update();
     });
     connect(&m_roll, &QVariantAnimation::valueChanged, this, &RollingTime::redrawRolling);
@@ -51,7 +53,7 @@ void RollingTime::setTime(const QString& text, double fontSize)
     m_text = text;
     if (fontSize != m_fontSize) {
         m_fontSize = fontSize;
-        m_glyphs = ClockGlyphs(clockFont(fontSize));
+        m_glyphs = ClockGlyphs(clockFont(fontSize), gap);
     }
     if (isSameShape) {
         run(m_roll);
@@ -68,16 +70,17 @@ std::vector<RollingTime::Glyph> RollingTime::glyphs() const
     std::vector<Glyph> result;
     const double rolled = m_roll.value();
     const double distance = rollDistance * m_fontSize;
-    double x = -textWidth() / 2;
+    const auto middles = middlesOf(m_text);
+    const auto previous = middlesOf(m_previous);
     for (int i = 0; i < m_text.size(); ++i) {
-        const double width = m_glyphs.cellWidth(m_text[i]);
-        const double middle = x + width / 2;
-        x += width;
-        if (rolled < 1 && rolls(i)) {
-            result.push_back({m_previous[i], {middle, -distance * rolled}, 1 - rolled});
-            result.push_back({m_text[i], {middle, distance * (1 - rolled)}, rolled});
+        const auto at = static_cast<std::size_t>(i);
+        if (rolled == 1 || m_previous.isEmpty()) {
+            result.push_back({m_text[i], {middles[at], 0}, 1});
+        } else if (m_text[i] == m_previous[i]) {
+            result.push_back({m_text[i], {previous[at] + (middles[at] - previous[at]) * rolled, 0}, 1});
         } else {
-            result.push_back({m_text[i], {middle, 0}, 1});
+            result.push_back({m_previous[i], {previous[at], -distance * rolled}, 1 - rolled});
+            result.push_back({m_text[i], {middles[at], distance * (1 - rolled)}, rolled});
         }
     }
     return result;
@@ -104,19 +107,42 @@ double RollingTime::scale() const
     return std::min(1.0, width() / std::max(textWidth(), 1.0));
 }
 
-bool RollingTime::rolls(int index) const
+std::vector<double> RollingTime::middlesOf(const QString& text) const
 {
-    return index < m_previous.size() && m_previous[index] != m_text[index];
+    std::vector<double> middles;
+    double x = 0;
+    for (const auto character : text) {
+        const double cell = m_glyphs.cellWidth(character);
+        middles.push_back(x + cell / 2);
+        x += cell;
+    }
+    if (middles.empty())
+        return middles;
+
+    const auto halfInk = [this](QChar character) { return m_glyphs.outline(character).boundingRect().width() / 2; };
+    // The last digit, which changes most, ends where the widest would: so the others need not move for it.
+    middles.back() += m_glyphs.digitWidth() / 2 - halfInk(text.back());
+    const double left = middles.front() - halfInk(text.front());
+    const double right = middles.back() + halfInk(text.back());
+    for (auto& middle : middles)
+        middle -= (left + right) / 2;
+    return middles;
 }
 
 void RollingTime::redrawRolling()
 {
-    double x = width() / 2.0 - textWidth() / 2 * scale();
-    for (int i = 0; i < m_text.size(); ++i) {
-        const double cell = m_glyphs.cellWidth(m_text[i]) * scale();
-        if (rolls(i))
-            update(QRectF(x, 0, cell, height()).toAlignedRect().adjusted(-2, 0, 2, 0));
-        x += cell;
+    const auto middles = middlesOf(m_text);
+    const auto previous = middlesOf(m_previous);
+    for (std::size_t i = 0; i < previous.size(); ++i) {
+        const auto at = static_cast<int>(i);
+        if (m_text[at] == m_previous[at] && middles[i] == previous[i])
+            continue;
+        const double reach = m_glyphs.cellWidth(m_text[at]) / 2;
+        const QRectF cell(QPointF(std::min(middles[i], previous[i]) - reach, 0),
+            QPointF(std::max(middles[i], previous[i]) + reach, 0));
+        update(QRectF(width() / 2.0 + cell.left() * scale(), 0, cell.width() * scale(), height())
+                   .toAlignedRect()
+                   .adjusted(-2, 0, 2, 0));
     }
 }
 

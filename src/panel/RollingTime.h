@@ -13,7 +13,8 @@
 
 namespace velto {
 
-/// The remaining time, each digit in a cell of fixed width; digits that change roll upwards.
+/// The remaining time, each digit in a cell of fixed width; digits that change roll upwards. What is seen of it is
+/// centred, whichever digits these are.
 ///
 /// Assistive technology reads it, but is not told of the ticks.
 class RollingTime : public AnimatedView {
@@ -44,14 +45,15 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    /// The middle of each character of `text`, from the middle of the view, before anything is drawn smaller.
+    [[nodiscard]] std::vector<double> middlesOf(const QString& text) const;
     [[nodiscard]] double scale() const;
-    [[nodiscard]] bool rolls(int index) const;
     void redrawRolling();
 
     QString m_text;
     QString m_previous; ///< As long as `m_text`, or empty when nothing rolls.
     double m_fontSize = 64;
-    ClockGlyphs m_glyphs{clockFont(m_fontSize)};
+    ClockGlyphs m_glyphs;
     Motion m_roll{QEasingCurve::InOutCubic, this};
 };
 

@@ -8,14 +8,7 @@
 
 namespace velto {
 
-namespace {
-
-/// Between two characters that fill their cells, in parts of the font's size.
-constexpr double gapPerSize = 0.09;
-
-} // namespace
-
-ClockGlyphs::ClockGlyphs(const QFont& font) : m_gap(gapPerSize * font.pixelSize())
+ClockGlyphs::ClockGlyphs(const QFont& font, double gap) : m_gap(gap * font.pixelSize())
 {
     const auto outlineOf = [&font](QChar character) {
         QPainterPath outline;

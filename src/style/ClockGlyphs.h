@@ -15,9 +15,11 @@ namespace velto {
 /// moves while they change.
 class ClockGlyphs {
 public:
-    /// `font` has its size in pixels.
-    explicit ClockGlyphs(const QFont& font);
+    /// `font` has its size in pixels; `gap`, between two characters that fill their cells, is in parts of that.
+    explicit ClockGlyphs(const QFont& font, double gap = 0.09);
 
+    /// What is seen of the widest digit.
+    [[nodiscard]] double digitWidth() const { return m_digitWidth; }
     [[nodiscard]] double cellWidth(QChar character) const;
     [[nodiscard]] double width(const QString& text) const;
     [[nodiscard]] double digitHeight() const { return m_digitHeight; }

@@ -25,12 +25,12 @@ constexpr std::array table{
     Entry{ColorName::controlOutline, {0xff85858d, 0xff84848d, 0xff000000, 0xffffffff}},
     Entry{ColorName::field, {0xffffffff, 0xff19191c, 0xffffffff, 0xff000000}},
     Entry{ColorName::knob, {0xffffffff, 0xffffffff, 0xffffffff, 0xff000000}},
-    Entry{ColorName::tintedLabel, {0xffffffff, 0xff0b0b0d, 0xffffffff, 0xff000000}},
-    Entry{ColorName::teal, {0xff0a8496, 0xff4fc9da, 0xff055864, 0xff7fe6f4}},
-    Entry{ColorName::green, {0xff1c8540, 0xff34d15c, 0xff0c5420, 0xff63f088}},
-    Entry{ColorName::orange, {0xffc25500, 0xffff9f2e, 0xff853600, 0xffffb861}},
+    Entry{ColorName::tintedLabel, {0xff0b0b0d, 0xff0b0b0d, 0xffffffff, 0xff000000}},
+    Entry{ColorName::teal, {0xff0b8a8e, 0xff49d5da, 0xff05595c, 0xff85f1f4}},
+    Entry{ColorName::green, {0xff35c75f, 0xff34d15c, 0xff0c5420, 0xff63f088}},
+    Entry{ColorName::orange, {0xffffa733, 0xffff9f2e, 0xff853600, 0xffffb861}},
     Entry{ColorName::red, {0xffb3261e, 0xffff7f78, 0xff8a0f0a, 0xffffa29c}},
-    Entry{ColorName::accent, {0xff0a6268, 0xff0c8288, 0xff064a4f, 0xff0c8288}},
+    Entry{ColorName::accent, {0xff0a6266, 0xff0c8387, 0xff064c4e, 0xff0c8387}},
 };
 
 static_assert(table.size() == static_cast<std::size_t>(ColorName::last) + 1);

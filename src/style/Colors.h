@@ -20,8 +20,8 @@ enum class ColorName {
     controlOutline,   ///< The edge of fields, of empty tracks and of switches that are off.
     field,            ///< Behind text that can be edited.
     knob,             ///< The part of a switch or slider that moves.
-    tintedLabel,      ///< Text on a face of green, orange or red.
-    teal,
+    tintedLabel,      ///< Text on a face of green or orange.
+    teal,             ///< The ring of a focus phase and its title; the hue of the accent.
     green,
     orange,
     red,

@@ -3,6 +3,7 @@
 
 #include <QEvent>
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QStringList>
 #include <QWidget>
@@ -18,13 +19,23 @@ namespace {
 constexpr double pixelsPerPoint = 96.0 / 72.0;
 constexpr double usualPixels = 10 * pixelsPerPoint;
 
+/// Whether all digits are equally wide, which keeps a narrow one from standing in a hole.
+bool hasTabularFigures(const QString& family)
+{
+    QFont font(family);
+    font.setPixelSize(100);
+    const QFontMetricsF metrics(font);
+    return std::ranges::all_of(QStringLiteral("123456789"),
+        [&](QChar digit) { return metrics.horizontalAdvance(digit) == metrics.horizontalAdvance(u'0'); });
+}
+
 QString roundedFamily()
 {
+    QStringList rounded{"Quicksand", "Nunito", "M PLUS Rounded 1c", "Varela Round", "Comfortaa"};
     const auto installed = QFontDatabase::families();
-    for (const auto* family : {"Quicksand", "Nunito", "M PLUS Rounded 1c", "Varela Round", "Comfortaa"})
-        if (installed.contains(QLatin1String(family)))
-            return QLatin1String(family);
-    return {};
+    rounded.removeIf([&](const QString& family) { return !installed.contains(family); });
+    const auto tabular = std::ranges::find_if(rounded, hasTabularFigures);
+    return tabular == rounded.end() ? rounded.value(0) : *tabular;
 }
 
 class FontFollower final : public QObject {

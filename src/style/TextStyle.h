@@ -22,7 +22,8 @@ enum class TextStyle { title, title2, headline, body, subheadline, footnote, cap
 /// The desktop's UI font at the size and weight of `style`.
 [[nodiscard]] QFont textFont(TextStyle style);
 
-/// Semibold digits in a rounded family where one is installed, else in the UI font.
+/// Semibold digits in a rounded family where one is installed, one with tabular figures before others; else in the UI
+/// font.
 /// `pixels` is taken as it is: the clock does not grow with the text.
 [[nodiscard]] QFont clockFont(double pixels);
 

@@ -50,6 +50,11 @@ public:
             timer.start();
             loop.advance(547s);
         });
+        for (const auto& [name, elapsed] : {std::pair{"one-first", 450s}, std::pair{"one-last", 9s}})
+            card(name, 25, 5, [&, past = elapsed](PomodoroTimer& timer, FakeRunLoop& loop) {
+                timer.start();
+                loop.advance(past);
+            });
         card("paused", 25, 5, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
             timer.start();
             loop.advance(1111s);
