@@ -2,13 +2,16 @@
 #include "style/ClockGlyphs.h"
 
 #include <QFont>
+#include <QFontInfo>
 #include <QString>
+#include <QTransform>
 
 #include <algorithm>
+#include <cmath>
 
 namespace velto {
 
-ClockGlyphs::ClockGlyphs(const QFont& font, double gap) : m_gap(gap * font.pixelSize())
+ClockGlyphs::ClockGlyphs(const QFont& font, double gap) : m_gap(gap * QFontInfo(font).pixelSize())
 {
     const auto outlineOf = [&font](QChar character) {
         QPainterPath outline;
@@ -41,16 +44,31 @@ double ClockGlyphs::width(const QString& text) const
     return width;
 }
 
-QPainterPath ClockGlyphs::outline(const QString& text) const
+QPainterPath ClockGlyphs::crispOutline(const QString& text, int digitHeight) const
 {
+    const double scale = digitHeight / m_digitHeight;
     QPainterPath result;
-    double x = 0;
+    int x = 0;
     for (const auto character : text) {
-        const double cell = cellWidth(character);
-        result.addPath(outline(character).translated(x + cell / 2, 0));
+        const int cell = crispCell(character, scale);
+        const auto place = QTransform::fromTranslate(x + cell / 2.0, digitHeight / 2.0).scale(scale, scale);
+        result.addPath(place.map(outline(character)));
         x += cell;
     }
     return result;
+}
+
+int ClockGlyphs::crispWidth(const QString& text, int digitHeight) const
+{
+    int width = 0;
+    for (const auto character : text)
+        width += crispCell(character, digitHeight / m_digitHeight);
+    return width;
+}
+
+int ClockGlyphs::crispCell(QChar character, double scale) const
+{
+    return static_cast<int>(std::lround(cellWidth(character) * scale));
 }
 
 } // namespace velto

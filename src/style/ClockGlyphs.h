@@ -15,7 +15,7 @@ namespace velto {
 /// moves while they change.
 class ClockGlyphs {
 public:
-    /// `font` has its size in pixels; `gap`, between two characters that fill their cells, is in parts of that.
+    /// `gap` is between two characters that fill their cells, in parts of the font's size.
     explicit ClockGlyphs(const QFont& font, double gap = 0.09);
 
     /// What is seen of the widest digit.
@@ -26,10 +26,15 @@ public:
 
     /// Centred about the origin: digits on a common base line, others each by what is seen of them.
     [[nodiscard]] const QPainterPath& outline(QChar character) const { return m_outlines.at(character); }
-    /// From x = 0 on, the digits' middle at y = 0.
-    [[nodiscard]] QPainterPath outline(const QString& text) const;
+
+    /// A text whose digits are `digitHeight` high, from the origin on to the right and down. Whole numbers keep it
+    /// crisp: every cell is a whole number wide.
+    [[nodiscard]] QPainterPath crispOutline(const QString& text, int digitHeight) const;
+    [[nodiscard]] int crispWidth(const QString& text, int digitHeight) const;
 
 private:
+    [[nodiscard]] int crispCell(QChar character, double scale) const;
+
     double m_digitWidth = 0;
     double m_digitHeight;
     double m_gap;

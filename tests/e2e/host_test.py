@@ -65,7 +65,7 @@ class PanelBars(unittest.TestCase):
         wait_for(lambda: self.strip() <= "24:58", what="a strip that counts with the card")
         strip = self.velto.other_windows[0]
         x, y, width, height = strip.rectangle
-        self.assertGreater(x + width, 1180)
+        self.assertGreater(x + width, 1000)
         self.assertLess(y, 60)
 
         self.desktop.click(*strip.middle)

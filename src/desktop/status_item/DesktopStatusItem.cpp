@@ -32,7 +32,7 @@ constexpr auto patienceForHost = 2s;
 
 // Twice what bars usually give an item; they scale pictures down, never up.
 constexpr int wideHeight = 48;
-constexpr int squareSide = 48;
+constexpr int timerSide = 48;
 
 /// The control that has the keyboard, else the pointer.
 QRect placeOfUse()
@@ -214,7 +214,11 @@ void DesktopStatusItem::showStrip()
     m_stripDelay.stop();
     if (m_strip)
         return;
-    m_strip = std::make_unique<StripWindow>([this](ClickEvent::Kind kind, bool control) { clicked({kind, control}); });
+    m_strip = std::make_unique<StripWindow>(
+        [this](ClickEvent::Kind kind, bool control) {
+            clicked({kind, control});
+        },
+        m_bus.connection());
     m_strip->setTextFont(m_font);
     m_strip->setToolTip(m_toolTip);
     m_strip->setText(m_title);
@@ -230,13 +234,13 @@ void DesktopStatusItem::drawPicture()
     const auto ink = statusPictureInk(barColor(), m_appearsDisabled);
     switch (m_traits.shape) {
     case TimeShape::label:
-        m_onBus->item.setPicture(timerStatusPicture(squareSide, ink));
+        m_onBus->item.setPictures({timerStatusPicture(timerSide, ink)});
         break;
     case TimeShape::widePicture:
-        m_onBus->item.setPicture(wideStatusPicture(m_title, m_font, wideHeight, ink));
+        m_onBus->item.setPictures({wideStatusPicture(m_title, m_font, wideHeight, ink)});
         break;
     case TimeShape::squarePicture:
-        m_onBus->item.setPicture(squareStatusPicture(m_title, m_font, squareSide, ink));
+        m_onBus->item.setPictures(squareStatusPictures(m_title, m_font, ink));
         break;
     }
 }

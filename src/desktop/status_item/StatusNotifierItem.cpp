@@ -8,6 +8,8 @@
 #include <QDBusMessage>
 #include <QDBusMetaType>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace velto {
@@ -58,14 +60,13 @@ void StatusNotifierItem::setLabel(const QString& text, bool announced)
         Q_EMIT XAyatanaNewLabel(m_label, labelGuide());
 }
 
-void StatusNotifierItem::setPicture(const QImage& picture)
+void StatusNotifierItem::setPictures(const QList<QImage>& pictures)
 {
-    DBusPictures pictures;
-    if (!picture.isNull())
-        pictures.append(dbusPicture(picture));
-    if (pictures == m_pictures)
+    DBusPictures sent;
+    std::ranges::transform(pictures, std::back_inserter(sent), dbusPicture);
+    if (sent == m_pictures)
         return;
-    m_pictures = std::move(pictures);
+    m_pictures = std::move(sent);
     Q_EMIT NewIcon();
 }
 

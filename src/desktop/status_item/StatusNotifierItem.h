@@ -53,8 +53,8 @@ public:
     void setToolTip(const QString& text);
     /// The text is readable in any case; `announced` tells the hosts that it is new.
     void setLabel(const QString& text, bool announced);
-    /// A null image stands for no picture.
-    void setPicture(const QImage& picture);
+    /// One in several sizes; hosts choose.
+    void setPictures(const QList<QImage>& pictures);
 
 public Q_SLOTS:
     Q_SCRIPTABLE void Activate(int x, int y);

@@ -32,14 +32,33 @@ void paint(QImage& image, const QPainterPath& path, const QColor& ink)
     painter.fillPath(path, ink);
 }
 
-/// How much wider than drawn by the font a digit may get to fill its cell.
-constexpr double widest = 1.12;
-
-ClockGlyphs glyphsOf(QFont font, double pixels)
+/// Large enough to be scaled.
+QFont outlineFont(QFont font, QFont::Weight weight)
 {
-    font.setPixelSize(static_cast<int>(std::lround(pixels)));
+    constexpr int pixels = 100;
+    font.setPixelSize(pixels);
+    font.setWeight(weight);
     font.setHintingPreference(QFont::PreferNoHinting);
-    return ClockGlyphs(font);
+    return font;
+}
+
+QImage squareStatusPicture(const QString& text, const ClockGlyphs& glyphs, int side, const QColor& ink)
+{
+    const int margin = std::max(1, side / 24);
+    const int leastGap = std::max(2, side / 11);
+    const int digitHeight = (side - 2 * margin - leastGap) / 2;
+    QPainterPath lines;
+    int top = margin;
+    for (const auto& part : text.split(QLatin1Char(':'))) {
+        const int width = glyphs.crispWidth(part, digitHeight);
+        const double narrowing = std::min(1.0, static_cast<double>(side) / width);
+        const auto place = QTransform::fromTranslate((side - width * narrowing) / 2, top).scale(narrowing, 1);
+        lines.addPath(place.map(glyphs.crispOutline(part, digitHeight)));
+        top = side - margin - digitHeight;
+    }
+    auto image = transparentImage(side, side);
+    paint(image, lines, ink);
+    return image;
 }
 
 } // namespace
@@ -60,36 +79,24 @@ QColor statusPictureInk(const QColor& bar, bool appearsDisabled)
 
 QImage wideStatusPicture(const QString& text, const QFont& font, int height, const QColor& ink)
 {
-    // A line of text in a bar takes about two thirds of its height.
-    const auto glyphs = glyphsOf(font, height * 2.0 / 3);
-    const double margin = height / 16.0;
-    auto image = transparentImage(static_cast<int>(std::ceil(glyphs.width(text) + 2 * margin)), height);
-    paint(image, glyphs.outline(text).translated(margin, height / 2.0), ink);
+    const ClockGlyphs glyphs(outlineFont(font, QFont::DemiBold));
+    // As high as digits of a line of text that takes two thirds of the bar.
+    const int digitHeight = height / 2 - height / 2 % 2;
+    const int margin = height / 16;
+    auto image = transparentImage(glyphs.crispWidth(text, digitHeight) + 2 * margin, height);
+    paint(image, glyphs.crispOutline(text, digitHeight).translated(margin, (height - digitHeight) / 2), ink);
     return image;
 }
 
-QImage squareStatusPicture(const QString& text, const QFont& font, int height, const QColor& ink)
+QList<QImage> squareStatusPictures(const QString& text, const QFont& font, const QColor& ink)
 {
-    auto image = transparentImage(height, height);
-    const auto glyphs = glyphsOf(font, height);
-    const double margin = height / 24.0;
-    const double gap = height / 10.0;
-    const double lineHeight = (height - 2 * margin - gap) / 2;
-
-    QPainterPath lines;
-    double middle = margin + lineHeight / 2;
-    const double scaleY = lineHeight / glyphs.digitHeight();
-    for (const auto& part : text.split(QLatin1Char(':'))) {
-        const double width = glyphs.width(part);
-        const double scaleX = std::min(scaleY * widest, (height - 2 * margin) / width);
-        QTransform place;
-        place.translate((height - width * scaleX) / 2, middle);
-        place.scale(scaleX, scaleY);
-        lines.addPath(place.map(glyphs.outline(part)));
-        middle += lineHeight + gap;
-    }
-    paint(image, lines, ink);
-    return image;
+    // Two digits leave room for some air between them, which thin strokes need.
+    constexpr double gap = 0.14;
+    const ClockGlyphs glyphs(outlineFont(font, QFont::Normal), gap);
+    QList<QImage> pictures;
+    for (const int side : {22, 24, 28, 32, 44, 48})
+        pictures.append(squareStatusPicture(text, glyphs, side, ink));
+    return pictures;
 }
 
 QImage timerStatusPicture(int height, const QColor& ink)

@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QImage>
+#include <QList>
 
 class QFont;
 class QString;
@@ -18,8 +19,9 @@ namespace velto {
 /// characters only, so that it holds still while digits change.
 [[nodiscard]] QImage wideStatusPicture(const QString& text, const QFont& font, int height, const QColor& ink);
 
-/// The part before the colon above the part behind it, each filling half of the square.
-[[nodiscard]] QImage squareStatusPicture(const QString& text, const QFont& font, int height, const QColor& ink);
+/// The part before the colon above the part behind it, with strokes like those of a bar's clock; a picture of its own
+/// for each size that bars usually give an item, plain or doubled.
+[[nodiscard]] QList<QImage> squareStatusPictures(const QString& text, const QFont& font, const QColor& ink);
 
 /// A timer's face, to stand beside a text that somebody else draws.
 [[nodiscard]] QImage timerStatusPicture(int height, const QColor& ink);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/status_item/FullScreenWatch.h"
+#include "desktop/status_item/GnomeBar.h"
 #include "desktop/windows/FloatingWindow.h"
 #include "platform/Application.h"
 
@@ -12,28 +14,38 @@ namespace velto {
 
 /// The time in a small window of its own, for desktops without a place for status items.
 ///
-/// Stands at the top right of the main screen's usable area and never takes the focus. Main thread only.
+/// Stands in GNOME's bar, beside the clock, like a text of the bar. Elsewhere it stands at the top of the main screen's
+/// usable area, left of where windows have their buttons, until it is dragged along that edge. Hidden while a window
+/// fills the screen. Never takes the focus. Main thread only.
 class StripWindow final : public FloatingWindow {
     Q_OBJECT
 
 public:
     using ClickHandler = std::function<void(ClickEvent::Kind kind, bool control)>;
 
-    explicit StripWindow(ClickHandler onClick);
+    StripWindow(ClickHandler onClick, const QDBusConnection& bus);
 
     void setText(const QString& text);
     void setTextFont(const QFont& font);
     void setAppearsDisabled(bool disabled);
 
+    void setVisible(bool visible) override;
+
 private:
     class Face;
 
-    explicit StripWindow(Face* face);
+    StripWindow(Face* face, const QDBusConnection& bus);
 
     void followScreen();
     void place();
+    void dragTo(int x);
 
     Face* m_face;
+    GnomeBar m_bar;
+    FullScreenWatch m_fullScreen;
+    QFont m_font; ///< For outside of a bar.
+    int m_distanceFromRight;
+    bool m_isWanted = false;
 };
 
 } // namespace velto

@@ -74,6 +74,21 @@ bool hasWindowManager()
     return !property(rootWindow(), atom("_NET_SUPPORTING_WM_CHECK")).empty();
 }
 
+std::string windowManager()
+{
+    const auto check = property(rootWindow(), atom("_NET_SUPPORTING_WM_CHECK"));
+    if (check.empty())
+        return {};
+    constexpr std::uint32_t maximumLength = 64;
+    const auto cookie
+        = xcb_get_property(connection(), 0, check.front(), atom("_NET_WM_NAME"), XCB_ATOM_ANY, 0, maximumLength);
+    const auto reply = owned(xcb_get_property_reply(connection(), cookie, nullptr));
+    if (!reply || reply->format != 8)
+        return {};
+    return {static_cast<const char*>(xcb_get_property_value(reply.get())),
+        static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
+}
+
 bool hasCompositingManager()
 {
     const auto cookie = xcb_get_selection_owner(connection(), atom("_NET_WM_CM_S0"));

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -20,6 +21,8 @@ namespace velto::x11 {
 [[nodiscard]] xcb_connection_t* connection();
 [[nodiscard]] xcb_window_t rootWindow();
 [[nodiscard]] bool hasWindowManager();
+/// The name of the one there is; empty for none.
+[[nodiscard]] std::string windowManager();
 /// Without one, translucent pixels are drawn as if they were opaque.
 [[nodiscard]] bool hasCompositingManager();
 [[nodiscard]] xcb_atom_t atom(std::string_view name);

@@ -99,17 +99,17 @@ TEST_F(StatusNotifierItemTest, KeepsALabelReadableThatIsNotAnnounced)
 
 TEST_F(StatusNotifierItemTest, TellsOfAPictureOnlyWhenItsPixelsChange)
 {
-    item.setPicture(picture(4, Qt::red));
-    item.setPicture(picture(4, Qt::red));
+    item.setPictures({picture(4, Qt::red)});
+    item.setPictures({picture(4, Qt::red)});
     EXPECT_EQ(signalNames(), QStringList({QStringLiteral("NewIcon")}));
     const auto pictures = qdbus_cast<DBusPictures>(property("IconPixmap"));
     ASSERT_EQ(pictures.size(), 1);
     EXPECT_EQ(pictures[0], dbusPicture(picture(4, Qt::red)));
 
-    item.setPicture(picture(4, Qt::green));
+    item.setPictures({picture(4, Qt::green)});
     EXPECT_EQ(signalNames(), QStringList({QStringLiteral("NewIcon")}));
 
-    item.setPicture({});
+    item.setPictures({});
     EXPECT_EQ(signalNames(), QStringList({QStringLiteral("NewIcon")}));
     EXPECT_TRUE(qdbus_cast<DBusPictures>(property("IconPixmap")).isEmpty());
 }

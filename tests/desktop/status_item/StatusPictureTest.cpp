@@ -9,6 +9,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace velto {
 
@@ -24,7 +27,7 @@ protected:
     QColor ink = statusPictureInk(Qt::black, false);
 
     QImage wide(const char* text) { return wideStatusPicture(QString::fromLatin1(text), font, 48, ink); }
-    QImage square(const char* text) { return squareStatusPicture(QString::fromLatin1(text), font, 48, ink); }
+    QList<QImage> squares(const char* text) { return squareStatusPictures(QString::fromLatin1(text), font, ink); }
 
     /// The smallest rectangle that holds every pixel in the colour of the text.
     static QRect textBounds(const QImage& image)
@@ -55,28 +58,54 @@ TEST_F(StatusPictureTest, AWidePictureHasItsTextInTheMiddle)
     EXPECT_GE(bounds.height(), 20);
 }
 
-TEST_F(StatusPictureTest, ASquarePictureFillsItsCellWithTwoLines)
+/// What `row` shows at its strongest, from 0 to 255.
+int strongest(const QImage& image, int row)
 {
-    for (const auto* text : {"24:59", "00:00", "100:00", "1666:39"}) {
-        const auto image = square(text);
-        ASSERT_EQ(image.size(), QSize(48, 48)) << text;
-        const auto bounds = textBounds(image);
+    int alpha = 0;
+    for (int x = 0; x < image.width(); ++x)
+        alpha = std::max(alpha, image.pixelColor(x, row).alpha());
+    return alpha;
+}
 
-        EXPECT_GE(bounds.height(), 42) << text;
-        EXPECT_GE(bounds.width(), 34) << text;
-        EXPECT_GE(bounds.left(), 1) << text;
-        EXPECT_LE(bounds.right(), 46) << text;
-        int rowsOfText = 0;
-        for (int x = 0; x < 48; ++x)
-            rowsOfText += image.pixelColor(x, 24).lightness() > 128 && image.pixelColor(x, 24).alpha() > 128;
-        EXPECT_EQ(rowsOfText, 0) << "between the lines of " << text;
+TEST_F(StatusPictureTest, SquarePicturesComeInTheSizesOfBars)
+{
+    std::vector<int> sides;
+    for (const auto& image : squares("24:59")) {
+        EXPECT_EQ(image.width(), image.height());
+        sides.push_back(image.width());
     }
+    EXPECT_EQ(sides, (std::vector{22, 24, 28, 32, 44, 48}));
+}
+
+TEST_F(StatusPictureTest, ASquarePictureHasTwoCrispLinesThatFillItsHeight)
+{
+    constexpr int faint = 32;
+    for (const auto* text : {"24:59", "00:00", "17:44", "100:00", "1666:39"})
+        for (const auto& image : squares(text)) {
+            SCOPED_TRACE(text + std::string(" at ") + std::to_string(image.width()));
+            std::vector<std::pair<int, int>> lines; // first and last row of each
+            for (int row = 0; row < image.height(); ++row) {
+                if (strongest(image, row) < faint)
+                    continue;
+                if (lines.empty() || lines.back().second < row - 1)
+                    lines.emplace_back(row, row);
+                lines.back().second = row;
+            }
+            ASSERT_EQ(lines.size(), 2U);
+            const auto [upper, lower] = std::pair(lines.front(), lines.back());
+            EXPECT_GE(lower.first - upper.second - 1, 2) << "between the lines";
+            EXPECT_GE(upper.second - upper.first + 1, image.height() * 2 / 5 - 1);
+            EXPECT_EQ(upper.second - upper.first, lower.second - lower.first);
+            EXPECT_EQ(upper.first, image.height() - 1 - lower.second) << "as much room above as below";
+            for (const int row : {upper.first, upper.second, lower.first, lower.second})
+                EXPECT_GT(strongest(image, row), 128) << "a line begins and ends with a pixel, not within one";
+        }
 }
 
 TEST_F(StatusPictureTest, OtherDigitsMakeAnotherPicture)
 {
-    EXPECT_NE(square("24:59"), square("24:58"));
-    EXPECT_EQ(square("24:59"), square("24:59"));
+    EXPECT_NE(squares("24:59"), squares("24:58"));
+    EXPECT_EQ(squares("24:59"), squares("24:59"));
 }
 
 /// The contrast of two colours, from 1 to 21.

@@ -5,6 +5,7 @@ import unittest
 from desktop import VirtualDesktop, holds, wait_for
 from messages import messages_in
 
+ROOM_FOR_BUTTONS = 168
 MENU_ROLES = ("menu item", "check menu item")
 
 
@@ -30,12 +31,12 @@ class TheStrip(unittest.TestCase):
     def wait_until_closed(self):
         wait_for(lambda: not self.menu_is_open(), what="the menu closed")
 
-    def test_it_stands_at_the_top_right_and_takes_the_focus_from_no_window(self):
+    def test_it_stands_at_the_top_beside_the_buttons_of_windows_and_takes_the_focus_from_no_window(self):
         field = self.desktop.open_window("other")
         focused = self.desktop.focused_window
 
         x, y, width, _ = self.velto.strip.rectangle
-        self.assertEqual((x + width, y), (1280 - 6, 6))
+        self.assertEqual((x + width, y), (1280 - ROOM_FOR_BUTTONS, 6))
         self.click()
         wait_for(lambda: not self.velto.card_is_visible)
         self.desktop.type("still here")
@@ -76,9 +77,10 @@ class TheStrip(unittest.TestCase):
         wait_for(lambda: self.velto.card_is_visible)
 
     def test_the_card_stands_under_it_from_the_launch_on(self):
-        _, y, _, height = self.velto.strip.rectangle
+        x, y, strip_width, height = self.velto.strip.rectangle
         left, top, width, _ = self.velto.card.rectangle
-        self.assertEqual((left + width, top), (1280, y + height + 6))
+        self.assertEqual(top, y + height + 6)
+        self.assertAlmostEqual(left + width / 2, min(x + strip_width / 2, 1280 - width / 2), delta=1)
 
         self.click()
         wait_for(lambda: not self.velto.card_is_visible)
@@ -86,6 +88,37 @@ class TheStrip(unittest.TestCase):
         wait_for(lambda: self.velto.card_is_visible)
 
         self.assertEqual(self.velto.card.rectangle[:2], (left, top))
+
+    def test_it_is_dragged_along_its_edge_and_that_is_no_click(self):
+        x, y, width, height = self.velto.strip.rectangle
+        self.desktop.press(x + width // 2, y + height // 2)
+        for step in range(1, 11):
+            self.desktop.move(x + width // 2 - 30 * step, y + height // 2 + 10 * step)
+        self.desktop.release()
+
+        wait_for(lambda: self.velto.strip.rectangle == (x - 300, y, width, height))
+        holds(lambda: self.velto.card_is_visible, 0.7)
+        self.click()
+        wait_for(lambda: not self.velto.card_is_visible)
+        self.click()
+        wait_for(lambda: self.velto.card_is_visible)
+        left, _, card_width, _ = self.velto.card.rectangle
+        self.assertAlmostEqual(left + card_width / 2, x - 300 + width / 2, delta=1)
+
+    def test_it_is_hidden_while_a_window_fills_the_screen(self):
+        self.desktop.open_window("other")
+        holds(lambda: self.velto.strip, 1)
+        self.desktop.ask("wmctrl", "-r", "other", "-b", "add,fullscreen")
+        wait_for(lambda: not self.has_strip(), what="the strip gone from a filled screen")
+
+        self.desktop.ask("wmctrl", "-r", "other", "-b", "remove,fullscreen")
+        wait_for(self.has_strip, what="the strip again")
+
+    def has_strip(self):
+        try:
+            return bool(self.velto.strip)
+        except LookupError:
+            return False
 
     def test_a_preset_is_chosen_with_the_mouse_and_the_card_stays(self):
         self.click(button=3)

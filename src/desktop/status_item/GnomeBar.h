@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusVariant>
+#include <QFont>
+#include <QObject>
+#include <QRect>
+#include <QVariantMap>
+
+#include <optional>
+
+namespace velto {
+
+/// The bar at the top of GNOME's main screen, which takes no status items by itself: where there is room beside its
+/// clock for a window of ours.
+///
+/// GNOME does not tell where its clock ends. That follows from the bar's middle, from what the clock shows, which the
+/// settings portal knows, and from the type; without a portal the clock is taken to show everything. Main thread only.
+class GnomeBar final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit GnomeBar(QDBusConnection bus);
+
+    /// As high as the bar, in points. Absent on other desktops and where there is no room.
+    [[nodiscard]] std::optional<QRect> placeFor(int width) const;
+
+    /// The type of the bar's texts, as the desktop's font is now.
+    [[nodiscard]] static QFont font();
+
+signals:
+    void changed();
+
+private slots:
+    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+
+private:
+    [[nodiscard]] static std::optional<QRect> area();
+    [[nodiscard]] double clockWidth() const;
+    [[nodiscard]] bool shows(const char* key) const;
+
+    QVariantMap m_settings; ///< Of the desktop's interface; empty while they are not known.
+};
+
+} // namespace velto
