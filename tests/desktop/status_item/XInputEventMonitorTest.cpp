@@ -41,6 +41,24 @@ protected:
     int presses = 0;
 };
 
+/// With a menu under a bar, opened with the right button.
+class XInputEventMonitorMenuTest : public XInputEventMonitorTest {
+protected:
+    void SetUp() override
+    {
+        XInputEventMonitorTest::SetUp();
+        bar.show();
+        token = watch();
+        ASSERT_TRUE(Desktop::click(1500, 10, 3));
+        gesture.menuRequested();
+        menu.show();
+    }
+
+    OtherWindow bar{{0, 0, 2400, 30}, OtherWindow::Kind::dock};
+    OtherWindow menu{{1450, 30, 200, 300}, OtherWindow::Kind::menu};
+    std::optional<Subscription> token;
+};
+
 } // namespace
 
 TEST_F(XInputEventMonitorTest, EachPressOfTheLeftAndOfTheRightButtonCountsOnce)
@@ -228,15 +246,8 @@ TEST_F(XInputEventMonitorTest, AReservedEdgeWithoutAWindowIsABarToo)
     EXPECT_TRUE(count(1)) << presses << " below the edge";
 }
 
-TEST_F(XInputEventMonitorTest, AMenuThatIsGoneTakesNoPress)
+TEST_F(XInputEventMonitorMenuTest, AMenuThatIsGoneTakesNoPress)
 {
-    OtherWindow bar{{0, 0, 2400, 30}, OtherWindow::Kind::dock};
-    bar.show();
-    const auto token = watch();
-    ASSERT_TRUE(Desktop::click(1500, 10, 3));
-    gesture.menuRequested();
-    OtherWindow menu{{1450, 30, 200, 300}, OtherWindow::Kind::menu};
-    menu.show();
     {
         OtherWindow submenu{{1650, 30, 200, 300}, OtherWindow::Kind::menu};
         submenu.show();
@@ -252,16 +263,8 @@ TEST_F(XInputEventMonitorTest, AMenuThatIsGoneTakesNoPress)
     EXPECT_TRUE(count(1)) << presses;
 }
 
-TEST_F(XInputEventMonitorTest, APressThatClosesTheMenuBelongsToIt)
+TEST_F(XInputEventMonitorMenuTest, APressThatClosesTheMenuBelongsToIt)
 {
-    OtherWindow bar{{0, 0, 2400, 30}, OtherWindow::Kind::dock};
-    bar.show();
-    const auto token = watch();
-    ASSERT_TRUE(Desktop::click(1500, 10, 3));
-    gesture.menuRequested();
-    OtherWindow menu{{1450, 30, 200, 300}, OtherWindow::Kind::menu};
-    menu.show();
-
     // Both have happened by the time anything is read.
     ASSERT_TRUE(Desktop::click(1500, 900));
     menu.hide();
