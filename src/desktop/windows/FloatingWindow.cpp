@@ -14,12 +14,21 @@ namespace velto {
 
 namespace {
 
+/// Qt says of a tool on nothing that it stands on an invisible window, and window managers refuse it things.
+Qt::WindowType typeOn(const QWidget* parent)
+{
+    return parent ? Qt::Tool : Qt::Window;
+}
+
 /// With attributes that count only now.
 QWidget& created(QWidget& window)
 {
     window.setAttribute(Qt::WA_TranslucentBackground);
     window.setAttribute(Qt::WA_ShowWithoutActivating);
     window.winId();
+    // Counts when the window's flags change next.
+    constexpr int utility = 0x20;
+    window.windowHandle()->setProperty("_q_xcb_wm_window_type", utility);
     return window;
 }
 
@@ -27,14 +36,13 @@ QWidget& created(QWidget& window)
 
 FloatingWindow::FloatingWindow(
     std::unique_ptr<QWidget> content, std::function<void()> dismiss, Focus focus, QWidget* parent) :
-    QWidget(parent,
-        Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint
-            | (focus == Focus::taken ? Qt::WindowFlags{} : Qt::WindowDoesNotAcceptFocus)),
+    QWidget(parent, typeOn(parent) | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint),
     m_dismiss(std::move(dismiss)),
     m_shape(created(*this)),
     m_hints(*this),
-    m_keyboard(*this, focus, keyboardOf(parent), m_dismiss)
+    m_keyboard(*this, focus, below() ? &below()->m_keyboard : nullptr, m_dismiss)
 {
+    windowHandle()->installEventFilter(this);
     setWindowTitle(QApplication::applicationDisplayName());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
@@ -43,7 +51,7 @@ FloatingWindow::FloatingWindow(
 
 void FloatingWindow::orderFront()
 {
-    auto* used = isVisible() ? shownSheet() : nullptr;
+    auto* used = isVisible() ? sheet() : nullptr;
     if (used && QGuiApplication::focusWindow() != used->windowHandle())
         used = nullptr;
     show();
@@ -54,10 +62,10 @@ void FloatingWindow::orderFront()
 
 void FloatingWindow::takeKeyboard()
 {
-    if (!isVisible())
+    if (!m_isWanted)
         return;
-    if (auto* sheet = shownSheet())
-        return sheet->takeKeyboard();
+    if (auto* top = sheet())
+        return top->takeKeyboard();
 
     if (!focusWidget() || !(focusWidget()->focusPolicy() & Qt::TabFocus))
         focusNextPrevChild(true);
@@ -70,17 +78,32 @@ void FloatingWindow::takeKeyboard()
 
 void FloatingWindow::takeKeyboardIfNeeded()
 {
-    auto& top = shownSheet() ? *shownSheet() : *this;
-    top.m_keyboard.takeAsAskedFor();
+    (sheet() ? sheet() : this)->m_keyboard.takeAsAskedFor();
 }
 
 void FloatingWindow::setVisible(bool visible)
 {
+    m_isWanted = visible;
+    if (visible && below() && !below()->m_isOnScreen)
+        return; // A window manager doesn't see that it stands on one that comes later.
     if (visible && !isVisible())
         m_hints.announce();
-    if (!visible)
+    if (!visible) {
+        m_isOnScreen = false;
         m_keyboard.leave();
+    }
     QWidget::setVisible(visible);
+}
+
+bool FloatingWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == windowHandle() && event->type() == QEvent::Expose && isVisible() && windowHandle()->isExposed()) {
+        m_isOnScreen = true;
+        m_keyboard.arrive();
+        if (auto* waiting = sheet(); waiting && !waiting->isVisible())
+            waiting->show();
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void FloatingWindow::keyPressEvent(QKeyEvent* event)
@@ -99,17 +122,11 @@ void FloatingWindow::contextMenuEvent(QContextMenuEvent* event)
         emit menuRequested();
 }
 
-const WindowKeyboard* FloatingWindow::keyboardOf(QWidget* parent)
-{
-    const auto* below = qobject_cast<FloatingWindow*>(parent);
-    return below ? &below->m_keyboard : nullptr;
-}
-
 /// With it the window takes no keys.
-FloatingWindow* FloatingWindow::shownSheet() const
+FloatingWindow* FloatingWindow::sheet() const
 {
     for (auto* sheet : findChildren<FloatingWindow*>(Qt::FindDirectChildrenOnly))
-        if (sheet->isVisible())
+        if (sheet->m_isWanted)
             return sheet;
     return nullptr;
 }

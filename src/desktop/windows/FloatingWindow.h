@@ -13,6 +13,8 @@
 namespace velto {
 
 /// Floats a widget above all other windows, without a frame.
+///
+/// With another floating window as its parent it stands on that: it comes to the screen after it.
 class FloatingWindow : public QWidget {
     Q_OBJECT
 
@@ -30,6 +32,7 @@ public:
     void takeKeyboardIfNeeded();
 
     void setVisible(bool visible) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
     /// By a key, and the content had no menu to show.
@@ -42,10 +45,12 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    [[nodiscard]] static const WindowKeyboard* keyboardOf(QWidget* parent);
-    [[nodiscard]] FloatingWindow* shownSheet() const;
+    [[nodiscard]] FloatingWindow* below() const { return qobject_cast<FloatingWindow*>(parentWidget()); }
+    [[nodiscard]] FloatingWindow* sheet() const;
 
     std::function<void()> m_dismiss;
+    bool m_isWanted = false; ///< It is visible, or will be when the one below it is on the screen.
+    bool m_isOnScreen = false;
     WindowShape m_shape;
     WindowManagerHints m_hints;
     WindowKeyboard m_keyboard;

@@ -52,7 +52,7 @@ bool SheetWindow::eventFilter(QObject* watched, QEvent* event)
         else if (event->type() == QEvent::ZOrderChange)
             raise();
     }
-    return QWidget::eventFilter(watched, event);
+    return FloatingWindow::eventFilter(watched, event);
 }
 
 void SheetWindow::place()

@@ -47,13 +47,14 @@ Focus sheetFocus()
     return seesPressesElsewhere() ? Focus::whenUsed : Focus::taken;
 }
 
-WindowKeyboard::WindowKeyboard(
-    QWidget& window, Focus focus, const WindowKeyboard* below, std::function<void()> dismiss) :
+WindowKeyboard::WindowKeyboard(QWidget& window, Focus focus, WindowKeyboard* below, std::function<void()> dismiss) :
     m_window(window),
     m_focus(focus),
     m_below(below),
     m_dismiss(std::move(dismiss))
 {
+    announce();
+    window.windowHandle()->installEventFilter(this);
     if (focus != Focus::taken)
         watchUse();
     else if (!below)
@@ -62,7 +63,7 @@ WindowKeyboard::WindowKeyboard(
 
 void WindowKeyboard::take()
 {
-    if (m_focus == Focus::taken)
+    if (m_isAccepted)
         claim();
     else
         setAccepted(true);
@@ -70,10 +71,8 @@ void WindowKeyboard::take()
 
 void WindowKeyboard::takeAsAskedFor()
 {
-    if (m_focus != Focus::taken)
-        return;
-    m_window.activateWindow();
-    activateWidgets();
+    if (m_focus == Focus::taken)
+        take();
 }
 
 void WindowKeyboard::keep()
@@ -82,25 +81,31 @@ void WindowKeyboard::keep()
         claim();
 }
 
+void WindowKeyboard::arrive()
+{
+    m_isOnScreen = true;
+    if (std::exchange(m_isWanted, false))
+        claim();
+}
+
 void WindowKeyboard::leave()
 {
-    if (m_focus == Focus::taken)
-        leaveToWindowBelow();
-    else
-        setAccepted(false);
+    m_isOnScreen = false;
+    m_isWanted = false;
+    setAccepted(false);
 }
 
 bool WindowKeyboard::eventFilter(QObject* /*watched*/, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonPress)
-        setAccepted(isNeededFor(m_window.childAt(static_cast<QMouseEvent*>(event)->position().toPoint())));
+        setAccepted(m_focus == Focus::taken
+            || isNeededFor(m_window.childAt(static_cast<QMouseEvent*>(event)->position().toPoint())));
     return false;
 }
 
 /// Keys can only be pressed where the keyboard is: what is used fetches it.
 void WindowKeyboard::watchUse()
 {
-    m_window.windowHandle()->installEventFilter(this);
     connect(m_window.windowHandle(), &QWindow::focusObjectChanged, this, [this](QObject* now) {
         if (isNeededFor(qobject_cast<QWidget*>(now)))
             setAccepted(true);
@@ -117,7 +122,7 @@ void WindowKeyboard::watchUse()
 void WindowKeyboard::watchLoss()
 {
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* now) {
-        if (!now && m_window.isVisible())
+        if (!now && m_window.isVisible() && m_oldLoss.hasExpired())
             m_dismiss();
     });
 }
@@ -136,60 +141,65 @@ void WindowKeyboard::setAccepted(bool isAccepted)
     if (isAccepted == m_isAccepted)
         return;
     m_isAccepted = isAccepted;
-    const bool wasActive = m_window.isActiveWindow();
-    // Sets the input hint in place, without mapping the window again.
-    m_window.windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus, !isAccepted);
+    if (!isAccepted && m_window.isActiveWindow())
+        giveBack();
+    announce();
+    if (isAccepted)
+        fetch();
+}
+
+/// In place, without mapping the window again.
+void WindowKeyboard::announce()
+{
+    m_window.windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus, !m_isAccepted);
     if (!x11::connection())
         return;
-
     const xcb_atom_t protocols = x11::atom("WM_PROTOCOLS");
     const xcb_atom_t takeFocus = x11::atom("WM_TAKE_FOCUS");
     auto names = x11::property(id(), protocols);
     std::erase(names, takeFocus);
-    if (isAccepted)
+    if (m_isAccepted)
         names.push_back(takeFocus);
     x11::setProperty(id(), protocols, XCB_ATOM_ATOM, names);
-
-    if (isAccepted)
-        fetch();
-    else if (wasActive)
-        giveBack();
 }
 
 void WindowKeyboard::fetch()
 {
+    if (!x11::connection())
+        return;
     m_previouslyFocused = m_below && m_below->m_isAccepted ? m_below->m_previouslyFocused : x11::focusedWindow();
+    if (m_below && m_focus == Focus::taken && !m_below->m_isAccepted) {
+        // Gets it back from this one: to lose it to another program would dismiss that window, too.
+        m_below->m_isAccepted = true;
+        m_below->m_previouslyFocused = m_previouslyFocused;
+        m_below->announce();
+    }
     claim();
 }
 
 void WindowKeyboard::claim()
 {
+    m_isWanted = !m_isOnScreen;
+    if (m_isWanted)
+        return;
     if (x11::connection())
         x11::focus(id());
-    activateWidgets();
-}
-
-/// Hidden with the keyboard, the window has stayed the active one for one half of Qt, which would not tell the other,
-/// the widgets, that it is so again.
-void WindowKeyboard::activateWidgets()
-{
-    if (QGuiApplication::focusWindow() == m_window.windowHandle())
-        QT_IGNORE_DEPRECATIONS(QApplication::setActiveWindow(&m_window);) // Nothing else reaches them.
+    if (QGuiApplication::focusWindow() != m_window.windowHandle())
+        return;
+    // Hidden with the keyboard, the window has stayed the active one for one half of Qt, which would not tell the
+    // other, the widgets, that it is so again; or which is still to tell that it was lost then.
+    m_oldLoss = QDeadlineTimer(500);
+    QT_IGNORE_DEPRECATIONS(QApplication::setActiveWindow(&m_window);) // Nothing else reaches them.
 }
 
 void WindowKeyboard::giveBack()
 {
+    if (!x11::connection())
+        return;
     if (m_below && m_below->m_isAccepted)
         x11::focus(m_below->id());
     else if (m_previouslyFocused != XCB_WINDOW_NONE)
         x11::focus(m_previouslyFocused);
-}
-
-/// To lose the keyboard to another program would dismiss that window, too.
-void WindowKeyboard::leaveToWindowBelow()
-{
-    if (m_below && m_below->m_window.isVisible() && m_window.isActiveWindow())
-        m_below->m_window.activateWindow();
 }
 
 xcb_window_t WindowKeyboard::id() const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QObject>
 
 #include <functional>
@@ -15,8 +16,8 @@ namespace velto {
 enum class Focus {
     leftAlone, ///< While a text field of the content is being edited.
     whenUsed,  ///< From the use of a control of the content to a press beside the controls.
-    taken,     ///< When it is asked for. Losing it to another program dismisses the window: for desktops where
-               ///< presses elsewhere can't be seen.
+    taken,     ///< From when it is asked for or pressed to when it is hidden. Losing it to another program dismisses
+               ///< the window: for desktops where presses elsewhere can't be seen.
 };
 
 /// Of the card itself, on this desktop.
@@ -31,15 +32,17 @@ class WindowKeyboard final : public QObject {
 public:
     /// `window` has been created to show without activating. It stands on that of `below`, if there is one, and must
     /// outlive this. `dismiss` runs for the loss of a taken focus.
-    WindowKeyboard(QWidget& window, Focus focus, const WindowKeyboard* below, std::function<void()> dismiss);
+    WindowKeyboard(QWidget& window, Focus focus, WindowKeyboard* below, std::function<void()> dismiss);
 
     /// For the window's first control, or for the one that had it last, until the window is left or hidden.
     void take();
-    /// For an open window that the user wants to see. No effect unless its focus is one that is taken.
+    /// The user wants to see the window. No effect unless its focus is one that is taken.
     void takeAsAskedFor();
     /// Takes it back after another window of the program may have got it. No effect unless its focus is one that is
     /// taken.
     void keep();
+    /// The window has come to the screen; it gets the keyboard then, not earlier.
+    void arrive();
     /// Before the window is hidden.
     void leave();
 
@@ -50,18 +53,20 @@ private:
     void watchLoss();
     [[nodiscard]] bool isNeededFor(const QWidget* widget) const;
     void setAccepted(bool isAccepted);
+    void announce();
     void fetch();
     void claim();
-    void activateWidgets();
     void giveBack();
-    void leaveToWindowBelow();
     [[nodiscard]] xcb_window_t id() const;
 
     QWidget& m_window;
     Focus m_focus;
-    const WindowKeyboard* m_below;
+    WindowKeyboard* m_below;
     std::function<void()> m_dismiss;
     bool m_isAccepted = false;
+    bool m_isOnScreen = false;
+    bool m_isWanted = false;  ///< As soon as the window is on the screen.
+    QDeadlineTimer m_oldLoss; ///< Until then a loss may be that of the showing before.
     xcb_window_t m_previouslyFocused = XCB_WINDOW_NONE;
 };
 

@@ -161,7 +161,7 @@ void focus(xcb_window_t window)
 {
     if (hasWindowManager()) {
         constexpr std::uint32_t asPager = 2;
-        request(window, "_NET_ACTIVE_WINDOW", {asPager});
+        request(window, "_NET_ACTIVE_WINDOW", {asPager, serverTime()});
     } else {
         xcb_set_input_focus(connection(), XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
         xcb_flush(connection());

@@ -11,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractNativeEventFilter>
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
@@ -137,6 +138,44 @@ public:
 private:
     QEvent::Type m_type;
 };
+
+/// Windows of this program in the order in which the server maps them.
+class Mappings : public QAbstractNativeEventFilter {
+public:
+    Mappings() { qApp->installNativeEventFilter(this); }
+
+    bool nativeEventFilter(const QByteArray& /*eventType*/, void* message, qintptr* /*result*/) override
+    {
+        if ((static_cast<const xcb_generic_event_t*>(message)->response_type & 0x7f) == XCB_MAP_NOTIFY)
+            windows.push_back(static_cast<const xcb_map_notify_event_t*>(message)->window);
+        return false;
+    }
+
+    [[nodiscard]] std::vector<xcb_window_t> of(const std::vector<xcb_window_t>& known) const
+    {
+        auto found = windows;
+        std::erase_if(found, [&](auto window) { return std::ranges::count(known, window) == 0; });
+        return found;
+    }
+
+private:
+    std::vector<xcb_window_t> windows;
+};
+
+xcb_window_t idOf(const QWidget& window)
+{
+    return static_cast<xcb_window_t>(window.winId());
+}
+
+/// What the window manager is told of the window's wish for the keyboard.
+bool acceptsKeyboard(const QWidget& window)
+{
+    const auto hints = x11::property(idOf(window), XCB_ATOM_WM_HINTS);
+    const auto protocols = x11::property(idOf(window), x11::atom("WM_PROTOCOLS"));
+    const bool hasInputHint = hints.size() > 1 && hints[1] == 1;
+    EXPECT_EQ(std::ranges::count(protocols, x11::atom("WM_TAKE_FOCUS")), hasInputHint ? 1 : 0);
+    return hasInputHint;
+}
 
 } // namespace
 
@@ -372,6 +411,75 @@ TEST(TakingPanelTest, AskedForItTakesTheKeyboardAndLosingItAsksForItsEnd)
     EXPECT_TRUE(eventually([&] { return dismissals == 2; }));
 }
 
+TEST(TakingPanelTest, ShownByItselfItAcceptsNoKeyboardBeforeItIsUsed)
+{
+    Desktop::current().startWindowManager();
+    const auto other = focusedWindow();
+    auto* button = new QPushButton(QStringLiteral("Start"));
+    QtPanelWindow panel{
+        std::unique_ptr<QWidget>{button}, QtPanelWindow::Handlers{.dismiss = [] {}, .openMenu = [] {}}, Focus::taken};
+    panel.setFrame(rectFromQt(place));
+    const auto& window = *button->window();
+
+    for (int round = 0; round < 2; ++round) {
+        panel.orderFrontRegardless();
+        EXPECT_FALSE(acceptsKeyboard(window)) << round;
+        ASSERT_TRUE(eventually([&] { return window.geometry() == place && window.windowHandle()->isExposed(); }));
+        EXPECT_FALSE(acceptsKeyboard(window)) << round;
+
+        ASSERT_TRUE(Desktop::click(place.center().x(), place.center().y()));
+        EXPECT_TRUE(eventually([&] { return window.isActiveWindow() && acceptsKeyboard(window); })) << round;
+        panel.orderOut();
+        EXPECT_TRUE(eventually([&] { return other->hasKeyboard(); })) << round;
+    }
+}
+
+TEST_F(QtPanelWindowTest, ItIsAUtilityThatStandsOnNoOtherWindow)
+{
+    const auto type = x11::atom("_NET_WM_WINDOW_TYPE");
+    const auto utility = x11::atom("_NET_WM_WINDOW_TYPE_UTILITY");
+    show();
+
+    EXPECT_EQ(x11::property(id(), XCB_ATOM_WM_TRANSIENT_FOR), std::vector<std::uint32_t>{});
+    EXPECT_EQ(x11::property(id(), type).at(0), utility);
+    panel->makeKey();
+    EXPECT_EQ(x11::property(id(), type).at(0), utility);
+}
+
+TEST_F(QtPanelWindowTest, ASheetIsMappedAfterItsCardEachTime)
+{
+    Desktop::current().startWindowManager();
+    FakeRunLoop runLoop;
+    QtScreens screens{runLoop};
+    auto* text = new QLineEdit;
+    SheetWindow sheet{std::unique_ptr<QWidget>{text}, *surface, screens, [] {}};
+    for (int round = 0; round < 3; ++round) {
+        const Mappings mappings;
+        sheet.show(); // As when the card brings along what is open on it.
+        panel->orderFrontRegardless();
+        panel->makeKey();
+
+        ASSERT_TRUE(eventually([&] { return sheet.isVisible() && sheet.windowHandle()->isExposed(); })) << round;
+        const std::vector ordered{id(), idOf(sheet)};
+        EXPECT_EQ(mappings.of(ordered), ordered) << round;
+        EXPECT_TRUE(eventually([&] { return text->hasFocus() && sheet.isActiveWindow(); })) << round;
+        sheet.hide();
+        panel->orderOut();
+    }
+}
+
+TEST_F(QtPanelWindowTest, ASheetThatIsHiddenBeforeItsCardIsOnTheScreenStaysHidden)
+{
+    FakeRunLoop runLoop;
+    QtScreens screens{runLoop};
+    SheetWindow sheet{std::make_unique<QLineEdit>(), *surface, screens, [] {}};
+    sheet.show();
+    sheet.hide();
+    show();
+
+    EXPECT_TRUE(stays([&] { return !sheet.isVisible(); }));
+}
+
 TEST(TakingPanelTest, ShownAgainItLeavesTheKeyboardToTheSheetOnIt)
 {
     Desktop::current().startWindowManager("openbox");
@@ -398,21 +506,23 @@ TEST(TakingPanelTest, ShownAgainItLeavesTheKeyboardToTheSheetOnIt)
 TEST_F(QtPanelWindowTest, ACloseOfASheetFromOutsideClosesItsContentAlsoOverAHiddenCard)
 {
     Desktop::current().startWindowManager();
-    show();
     FakeRunLoop runLoop;
     QtScreens screens{runLoop};
     for (const bool isHidden : {false, true}) {
         auto* content = new QLineEdit;
         const EventCounter closes{*content, QEvent::Close};
         SheetWindow sheet{std::unique_ptr<QWidget>{content}, *surface, screens, [] {}, Focus::whenUsed};
+        show();
         sheet.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&sheet));
-        sheet.setHidden(isHidden);
 
-        if (isHidden)
+        if (isHidden) {
+            sheet.hide();
+            panel->orderOut();
             EXPECT_TRUE(sheet.close()) << "A close that is refused would refuse the end of the session, too.";
-        else
+        } else {
             x11::request(static_cast<xcb_window_t>(sheet.winId()), "_NET_CLOSE_WINDOW", {});
+        }
 
         EXPECT_TRUE(eventually([&] { return closes.count == 1 && !sheet.isVisible(); }));
         EXPECT_EQ(panel->isVisible(), !isHidden);
