@@ -17,6 +17,10 @@ struct Notification {
 
 /// Broadcasts named notifications inside the process, synchronously and in the order of registration.
 ///
+///     auto& center = NotificationCenter::defaultCenter();
+///     m_shown = center.addObserver(statusBarShowTimer, [this](const Notification&) { showPanel(); });
+///     center.post(statusBarShowTimer);
+///
 /// Main thread only.
 class NotificationCenter {
 public:

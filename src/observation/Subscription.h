@@ -8,6 +8,9 @@ namespace velto {
 
 /// Keeps something going - an observation, a timer, a pending action - until it is dropped.
 ///
+///     Subscription m_ticks = runLoop.every(1s, [this] { tick(); }); // a member: ticks as long as its owner lives
+///     m_ticks = {};                                                 // no more ticks
+///
 /// Main thread only. An empty subscription keeps nothing.
 class [[nodiscard]] Subscription {
 public:

@@ -10,6 +10,10 @@ namespace velto {
 
 /// Runs work later on the main thread; keeps going while a menu is open.
 ///
+///     m_ticks = runLoop.every(1s, [this] { tick(); });
+///     m_welcome = runLoop.after(500ms, [this] { showWelcome(); });
+///     m_refresh = runLoop.nextTurn([this] { refresh(); });
+///
 /// The returned handle keeps the work scheduled: dropping it, even from within the work, cancels it.
 /// Handles must not outlive the run loop. Main thread only.
 class RunLoop {

@@ -35,7 +35,7 @@ bool isInOneOf(GInetAddress* address, std::span<const char* const> ranges)
     return std::ranges::any_of(ranges, [address](const char* range) { return isIn(address, range); });
 }
 
-/// The address of version 4 that one of version 6 stands for. Null without one.
+/// The IPv4 address that an IPv6 address stands for. Null without one.
 GInetAddress* unwrapped(GInetAddress* address)
 {
     const auto* bytes = g_inet_address_to_bytes(address);
@@ -56,7 +56,7 @@ Reach reachOf(GInetAddress* address)
     return isInOneOf(address, thisNetwork) ? Reach::network : Reach::world;
 }
 
-/// By way of a proxy only what is written in the address can be told.
+/// Behind a proxy, only what the address itself says is known.
 Reach reachOf(GSocketAddress* socketAddress)
 {
     if (!G_IS_PROXY_ADDRESS(socketAddress))

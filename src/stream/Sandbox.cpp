@@ -120,7 +120,7 @@ void leaveFiles()
     close(ruleset);
 }
 
-/// A filter of system calls; what it forbids fails as without the right to it.
+/// A filter of system calls; what it forbids fails for lack of permission.
 class Filter {
 public:
     Filter() : m_context(seccomp_init(SCMP_ACT_ALLOW)) { }

@@ -10,7 +10,7 @@ namespace velto {
 /// To be called while there is one thread; holds for those to come.
 void enterSandbox();
 
-/// Gives up to connect to anything on this machine by a local socket, such as the session bus, in all threads.
+/// Gives up connecting to local sockets, such as that of the session bus, in all threads.
 void leaveLocalSockets();
 
 } // namespace velto

@@ -113,7 +113,7 @@ GstElement* makeElement(const char* kind)
 
 GstElement* makeOutput()
 {
-    // Nothing waits for a clock: sound that comes late is still to be heard.
+    // Waits for no clock: sound that comes late is still to be heard.
     auto* output = gst_element_factory_make("pulsesink", nullptr);
     if (!output)
         return makeElement("autoaudiosink");

@@ -23,10 +23,10 @@ int main()
 {
     using namespace velto;
 
-    // Nothing plays on after the one who asked for it was killed.
+    // Stops playing when velto is killed.
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     close_range(STDERR_FILENO + 1, ~0U, 0);
-    // Whatever a plug-in prints is no more than a diagnostic.
+    // What plug-ins print are diagnostics.
     dup2(STDERR_FILENO, STDOUT_FILENO);
 
     std::string url;

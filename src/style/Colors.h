@@ -9,6 +9,8 @@ class QWidget;
 namespace velto {
 
 /// Every colour that a view may use, by what it is for.
+///
+///     painter.setPen(color(ColorName::secondaryLabel, *this)); // in paintEvent(), so that it follows the theme
 enum class ColorName {
     label,            ///< Text.
     secondaryLabel,   ///< Text that stands back.
@@ -33,7 +35,7 @@ enum class Theme { light, dark, lightHighContrast, darkHighContrast };
 
 [[nodiscard]] QColor color(ColorName name, Theme theme);
 
-/// The colour in the theme that `widget` is shown in. Read it when painting, it changes live.
+/// The colour in the theme that `widget` is shown in. Read it when painting: it changes live.
 [[nodiscard]] QColor color(ColorName name, const QWidget& widget);
 
 /// The theme that a palette belongs to; one that is not ours is light or dark by its window colour.

@@ -12,10 +12,14 @@
 
 namespace velto {
 
+// Layouts that have the shape of what they draw:
+//
+//     setLayout(column({.spacing = 12}, title, row({}, label, spacer, toggle), filling(list)));
+
 /// How the children of a stack stand.
 struct StackOptions {
     int spacing = 8;                           ///< Between neighbours.
-    QMargins padding = {};                     ///< Round all of them.
+    QMargins padding = {};                     ///< Around all of them.
     Qt::Alignment alignment = Qt::AlignCenter; ///< Across the stack; none lets children fill it.
 };
 

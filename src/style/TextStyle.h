@@ -10,6 +10,8 @@ class QWidget;
 namespace velto {
 
 /// The text sizes of the program, named by what they are for.
+///
+///     followFont(*this, [] { return textFont(TextStyle::headline); }); // in a view's constructor
 enum class TextStyle { title, title2, headline, body, subheadline, footnote, caption };
 
 /// How much larger than designed the user wants text: the desktop's font against the usual 10 pt,

@@ -14,6 +14,10 @@
 namespace velto {
 
 /// A run loop whose time passes only when a test says so.
+///
+///     PomodoroTimer timer{settings, runLoop, players};
+///     timer.start();
+///     runLoop.advance(60s); // sixty ticks, at once
 class FakeRunLoop final : public RunLoop {
 public:
     using Milliseconds = std::chrono::milliseconds;
@@ -34,7 +38,7 @@ public:
     }
 
     /// Lets `duration` pass: everything due in it runs at its time, in the order of the deadlines,
-    /// equal ones in the order asked for. What waits for the next turn runs first and after each.
+    /// equal ones in the order requested. What waits for the next turn runs first and after each.
     void advance(Milliseconds duration)
     {
         const auto end = m_now + duration;

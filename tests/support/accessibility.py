@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The accessibility tree of a desktop, asked directly over its bus: nothing is cached."""
+"""The accessibility tree of a desktop, read over its bus each time: nothing is cached."""
 from gi.repository import Gio, GLib
 
 _ACCESSIBLE = "org.a11y.atspi.Accessible"
@@ -104,7 +104,7 @@ class Accessible:
 
     def find_all(self, role=None, name=None, showing=True):
         """Every descendant with this role and name (None: any), by default only what is on the screen.
-        What disappears meanwhile is left out."""
+        Anything that disappears meanwhile is left out."""
         found = []
         try:
             for child in self.children:

@@ -62,7 +62,7 @@ class Velto:
 
     @property
     def printed(self):
-        """What a reader has got of its standard output so far, in bytes."""
+        """What has come out of its standard output so far, in bytes."""
         pipe = self.process.stdout
         while select.select([pipe], [], [], 0)[0] and (piece := os.read(pipe.fileno(), 65536)):
             self._printed += piece
@@ -286,7 +286,7 @@ class VirtualDesktop:
         wait_for(lambda: self._has_owner("org.freedesktop.portal.Desktop"), what="the settings portal")
 
     def stop_bus(self):
-        """Kills the session bus. All who end with it do, the panel bar among them."""
+        """Kills the session bus, and the panel bar with it."""
         for process in (self._bus_daemon, self._listener, self.host):
             process.kill()
             process.wait()
@@ -432,7 +432,7 @@ class VirtualDesktop:
         return [label for _, _, label in self.announcements]
 
     def hindrance(self, *processes):
-        """How much a busy machine holds up `processes` and what tells of them: the X server, the bus, its listener."""
+        """How much a busy machine holds up `processes` and those who report on them: X server, bus, its listener."""
         return Hindrance([self.x_server, self.bus_daemon, self._listener, *processes])
 
     def move(self, x, y):

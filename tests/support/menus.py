@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Menus on the screen, found by their pixels: who draws them need not be accessible."""
+"""Menus on the screen, found by their pixels: their owner need not be accessible."""
 from waiting import wait_for
 
 _SMALLEST_SIDE = 60

@@ -10,6 +10,9 @@ namespace velto {
 /// A connection to the session bus that is made again when the bus comes back after it was lost.
 ///
 /// Does not try again in a session that never had a bus. Main thread only.
+///
+///     ask(bus.connection());
+///     connect(&bus, &SessionBus::found, this, [this] { ask(m_bus.connection()); }); // everything anew
 class SessionBus final : public QObject {
     Q_OBJECT
 

@@ -17,7 +17,7 @@ namespace velto::x11 {
 
 /// Whether there is a server to connect to. Needs no application.
 [[nodiscard]] bool serverAnswers();
-/// Null when the application does not run on X11; then nothing else here may be called but what says so.
+/// Null when the application does not run on X11; then only functions that say so may be called here.
 [[nodiscard]] xcb_connection_t* connection();
 [[nodiscard]] xcb_window_t rootWindow();
 [[nodiscard]] bool hasWindowManager();

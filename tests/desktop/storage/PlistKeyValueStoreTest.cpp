@@ -132,7 +132,7 @@ TEST_F(PlistKeyValueStoreTest, EntriesOfOthersStay)
     EXPECT_TRUE(corruptOnes().empty());
 }
 
-TEST_F(PlistKeyValueStoreTest, AFileThatIsNoPropertyListIsMovedAside)
+TEST_F(PlistKeyValueStoreTest, AFileThatIsNotAPropertyListIsMovedAside)
 {
     for (const std::string content : {"", "no property list", "<plist><array/></plist>"}) {
         fs::remove_all(file.parent_path());
@@ -170,7 +170,7 @@ TEST_F(PlistKeyValueStoreTest, NoFileMovedAsideIsEverOverwritten)
     EXPECT_EQ(contents, expected);
 }
 
-TEST_F(PlistKeyValueStoreTest, WhatIsNoPlainFileDoesNotHoldUpTheStart)
+TEST_F(PlistKeyValueStoreTest, AFileThatIsNotRegularDoesNotHoldUpTheStart)
 {
     fs::create_directories(file.parent_path());
     ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0);

@@ -9,7 +9,7 @@ from desktop import VirtualDesktop, wait_for
 
 from sound import SoundServer
 
-# Who hangs, one after the other, and by which programs; the sound server last, when the phase is at its end.
+# Who hangs, one after the other, and the programs behind it; the sound server last, when the phase ends.
 NEIGHBOURS = {
     "window manager": ["xfwm4"],
     "panel bar": ["budgie-panel"],

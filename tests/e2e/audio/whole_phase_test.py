@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What is heard over a phase of one minute, also when the sound server goes and comes back."""
+"""What is heard during a phase of one minute, even when the sound server goes and comes back."""
 import unittest
 
 from desktop import wait_for

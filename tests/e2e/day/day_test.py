@@ -39,10 +39,15 @@ class Day(unittest.TestCase):
         self.window_manager = next(process for process in self.desktop._processes if process.args[0] == "xfwm4")
         self.monitors = []
 
+        # What the links of the About window open.
+        os.mkdir(self.desktop.path("bin"))
+        os.symlink("/bin/true", self.desktop.path("bin/xdg-open"))
+        path = {"PATH": f"{self.desktop.path('bin')}:{os.environ['PATH']}"}
+
         url = self.streams.url("tone.mp3")
         self.velto = self.desktop.start_velto(
             {"focusMinutes": 1, "breakMinutes": 1, "autoTransition": True, "focusMusicPreset": b'"Custom URL"',
-             "breakMusicPreset": b'"Custom URL"', "focusCustomURL": url, "breakCustomURL": url}, ENVIRONMENT | FAST)
+             "breakMusicPreset": b'"Custom URL"', "focusCustomURL": url, "breakCustomURL": url}, ENVIRONMENT | FAST | path)
         wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
         self.countdown.watch(lambda: [os.getpid(), self.velto.pid, self.desktop.x_server.pid,
                                       self.desktop._bus_daemon.pid])
@@ -95,9 +100,10 @@ class Day(unittest.TestCase):
                 self.click_in_form(corner, name)
         self.click_in_form(corner, button)
         try:
-            wait_for(self.form_is_gone, timeout=3)
+            wait_for(self.form_is_gone, timeout=3, what="the form's end")
         except AssertionError:
             self.desktop.key("Escape")
+            raise
 
     # What the hand does; the first ones may stop the countdown
 
@@ -160,6 +166,7 @@ class Day(unittest.TestCase):
         for entry in self.velto.item.menu().children:
             if entry.label in labels and entry.visible and entry.enabled:
                 self.velto.item.choose(entry.label)
+                return
 
     def start(self):
         self.choose_if_there("Start Focus", "Start Break", "Resume Focus", "Resume Break", "Start", "Resume")

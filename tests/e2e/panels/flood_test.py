@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Somebody on the bus who asks for the menu without end. By itself on the machine, or it holds up the others."""
+"""Somebody on the bus who keeps asking for the menu. Runs alone, since it would hold up the others."""
 import unittest
 
 from gi.repository import GLib

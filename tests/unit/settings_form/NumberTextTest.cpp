@@ -12,7 +12,7 @@ namespace velto {
 
 namespace {
 
-/// Digits and some numbers of other scripts, as any toolkit knows them.
+/// Digits and some numbers of other scripts, as Unicode knows them.
 bool isNumeric(char32_t c)
 {
     return (c >= U'0' && c <= U'9') || std::u32string_view(U"٣५๕７½Ⅻ①²𝟗").find(c) != std::u32string_view::npos;
