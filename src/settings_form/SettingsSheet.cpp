@@ -240,17 +240,20 @@ QLayout* SettingsSheet::soundPicker(const QString& title, Published<SoundOption>
 
 QLayout* SettingsSheet::music()
 {
-    auto* focus = phaseMusic(
-        tr("Enable music during focus"), m_form.enableFocusMusic, m_form.focusMusicPreset, m_form.focusCustomURL);
-    auto* breakTime = phaseMusic(
-        tr("Enable music during break"), m_form.enableBreakMusic, m_form.breakMusicPreset, m_form.breakCustomURL);
-    return column({.spacing = 12}, focus, breakTime, volumeSlider());
+    const auto focusTitle = tr("Enable music during focus");
+    const auto breakTitle = tr("Enable music during break");
+    auto* focus
+        = phaseMusic(focusTitle, breakTitle, m_form.enableFocusMusic, m_form.focusMusicPreset, m_form.focusCustomURL);
+    auto* breakTime
+        = phaseMusic(breakTitle, focusTitle, m_form.enableBreakMusic, m_form.breakMusicPreset, m_form.breakCustomURL);
+    return column({.spacing = 24}, focus, breakTime, volumeSlider());
 }
 
-QLayout* SettingsSheet::phaseMusic(
-    const QString& title, Published<bool>& isOn, Published<MusicPreset>& preset, Published<std::string>& customURL)
+QLayout* SettingsSheet::phaseMusic(const QString& title, const QString& otherTitle, Published<bool>& isOn,
+    Published<MusicPreset>& preset, Published<std::string>& customURL)
 {
     auto* enable = toggle(title, isOn);
+    enable->makeRoomFor(otherTitle);
     auto* source = picker(tr("Preset"), allMusicPresets, preset);
     auto* about = new TextLabel({}, TextStyle::caption, ColorName::secondaryLabel);
     auto* url = new TextField(tr("Custom URL"));

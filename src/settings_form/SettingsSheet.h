@@ -58,8 +58,8 @@ private:
     QLayout* music();
     QWidget* durationSlider(const QString& title, Published<std::int64_t>& value, ClosedRange range);
     QLayout* soundPicker(const QString& title, Published<SoundOption>& selection);
-    QLayout* phaseMusic(
-        const QString& title, Published<bool>& isOn, Published<MusicPreset>& preset, Published<std::string>& customURL);
+    QLayout* phaseMusic(const QString& title, const QString& otherTitle, Published<bool>& isOn,
+        Published<MusicPreset>& preset, Published<std::string>& customURL);
     QWidget* volumeSlider();
     ToggleSwitch* toggle(const QString& title, Published<bool>& isOn);
 

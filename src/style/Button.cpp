@@ -55,7 +55,7 @@ void Button::paintEvent(QPaintEvent*)
         content = m_tint == ColorName::accent ? QColor(Qt::white) : color(ColorName::tintedLabel, *this);
     else if (m_kind == ButtonKind::destructive)
         content = color(ColorName::red, *this);
-    else if (m_kind == ButtonKind::borderless)
+    else if (m_kind == ButtonKind::borderless && isEnabled())
         content = color(m_tint, *this);
     const double emphasis = isDown() ? 0.12 : underMouse() && isEnabled() ? 0.05 : 0;
 

@@ -120,7 +120,6 @@ void PickerList::drawCard()
 {
     const auto theme = themeOf(palette());
     const auto label = color(ColorName::label, theme);
-    const auto separator = color(ColorName::separator, theme);
     auto background = color(ColorName::windowBackground, theme);
     // In the dark a card over another one is told by its face.
     if (theme == Theme::dark)
@@ -129,7 +128,7 @@ void PickerList::drawCard()
     if (!m_card->mask().isEmpty())
         painter.fillRect(m_card->rect(), background);
     painter.setRenderHint(QPainter::Antialiasing);
-    drawBezel(painter, m_card->rect(), cornerRadius, background, mixed(separator, label, 0.1));
+    drawBezel(painter, m_card->rect(), cornerRadius, background, color(ColorName::controlOutline, theme));
 }
 
 void PickerList::cutCard()

@@ -79,16 +79,20 @@ void ScrollBar::paintEvent(QPaintEvent*)
 {
     QStyleOptionSlider option;
     initStyleOption(&option);
+    const bool isInUse = isSliderDown() || underMouse();
+    const int inset = isInUse ? 3 : 4;
     const QRectF thumb = style()
                              ->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, this)
-                             .adjusted(3, 3, -3, -3);
+                             .adjusted(inset, inset, -inset, -inset);
     const double radius = std::min(thumb.width(), thumb.height()) / 2;
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(
-        color(isSliderDown() || underMouse() ? ColorName::tertiaryLabel : ColorName::controlOutline, *this));
+    const auto outline = color(ColorName::controlOutline, *this);
+    painter.setBrush(isInUse || isHighContrast(palette())
+            ? outline
+            : mixed(outline, color(ColorName::windowBackground, *this), 0.4));
     painter.drawRoundedRect(thumb, radius, radius);
 }
 

@@ -17,8 +17,7 @@ namespace velto {
 namespace {
 
 constexpr double knobDiameter = 18;
-constexpr double trackHeight = 4;
-constexpr double focusMargin = 2;
+constexpr double trackHeight = 5;
 
 class SliderInterface final : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
@@ -63,14 +62,14 @@ void Slider::showValue(double value)
 
 QSize Slider::sizeHint() const
 {
-    return {120, static_cast<int>(knobDiameter + 2 * focusMargin)};
+    return {120, static_cast<int>(knobDiameter) + 4};
 }
 
 void Slider::paintEvent(QPaintEvent*)
 {
     const double middle = height() / 2.0;
     const double knob = knobCenter();
-    const QRectF track(focusMargin, middle - trackHeight / 2, width() - 2 * focusMargin, trackHeight);
+    const QRectF track(0, middle - trackHeight / 2, width(), trackHeight);
     auto filled = track;
     if (layoutDirection() == Qt::RightToLeft)
         filled.setLeft(knob);
@@ -82,16 +81,18 @@ void Slider::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     if (!isEnabled())
         painter.setOpacity(disabledOpacity);
+    painter.setPen(QPen(color(ColorName::controlOutline, *this), 1));
+    painter.setBrush(color(ColorName::control, *this));
+    painter.drawRoundedRect(track.adjusted(0.5, 0.5, -0.5, -0.5), trackHeight / 2 - 0.5, trackHeight / 2 - 0.5);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(color(ColorName::controlOutline, *this));
-    painter.drawRoundedRect(track, trackHeight / 2, trackHeight / 2);
     painter.setBrush(accent);
     painter.drawRoundedRect(filled, trackHeight / 2, trackHeight / 2);
 
     const bool isFocused = showsFocus(*this);
-    painter.setPen(QPen(isFocused ? accent : color(ColorName::controlOutline, *this), isFocused ? 3 : 1));
+    const double edge = isFocused ? 3 : 1;
+    painter.setPen(QPen(isFocused ? accent : color(ColorName::controlOutline, *this), edge));
     painter.setBrush(color(ColorName::knob, *this));
-    painter.drawEllipse(QPointF(knob, middle), knobDiameter / 2 - 0.5, knobDiameter / 2 - 0.5);
+    painter.drawEllipse(QPointF(knob, middle), (knobDiameter - edge) / 2, (knobDiameter - edge) / 2);
 }
 
 void Slider::mousePressEvent(QMouseEvent* event)
@@ -132,7 +133,7 @@ int Slider::positionOf(double value) const
 
 double Slider::knobCenter() const
 {
-    const double margin = focusMargin + knobDiameter / 2;
+    const double margin = knobDiameter / 2;
     const double range = static_cast<double>(maximum()) - minimum();
     double fraction = range > 0 ? (sliderPosition() - minimum()) / range : 0;
     if (layoutDirection() == Qt::RightToLeft)
@@ -142,7 +143,7 @@ double Slider::knobCenter() const
 
 int Slider::positionAt(double x) const
 {
-    const double margin = focusMargin + knobDiameter / 2;
+    const double margin = knobDiameter / 2;
     const double range = static_cast<double>(maximum()) - minimum();
     double fraction = std::clamp((x - margin) / std::max(width() - 2 * margin, 1.0), 0.0, 1.0);
     if (layoutDirection() == Qt::RightToLeft)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "style/Symbols.h"
 
+#include "style/Drawing.h"
+
 #include <QFile>
 #include <QIconEngine>
 #include <QPainter>
@@ -14,8 +16,6 @@
 namespace velto {
 
 namespace {
-
-constexpr double disabledOpacity = 0.4;
 
 QPixmap render(const QString& name, const QSize& pixels, const QColor& color)
 {

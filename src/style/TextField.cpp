@@ -7,6 +7,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QProxyStyle>
 
 namespace velto {
 
@@ -15,10 +16,27 @@ namespace {
 constexpr double cornerRadius = 7;
 constexpr int textMargin = 6;
 
+/// Hides the caret beside selected text, which it would turn into the opposite of its colour.
+class FieldStyle final : public QProxyStyle {
+public:
+    FieldStyle() : QProxyStyle(QStringLiteral("Fusion")) { }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
+    {
+        const auto* field = qobject_cast<const QLineEdit*>(widget);
+        return metric == PM_TextCursorWidth && field && field->hasSelectedText()
+            ? 0
+            : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
+
 } // namespace
 
 TextField::TextField(const QString& placeholder)
 {
+    auto* style = new FieldStyle;
+    style->setParent(this);
+    setStyle(style);
     setPlaceholderText(placeholder);
     setAccessibleName(placeholder);
     followFont(*this, [] { return textFont(TextStyle::body); });

@@ -34,8 +34,9 @@ ToggleSwitch::ToggleSwitch(const QString& title) : QCheckBox(title)
 
 QSize ToggleSwitch::sizeHint() const
 {
-    const int textWidth = text().isEmpty() ? 0 : lineWidth(*this, text()) + gap;
-    return {textWidth + trackSize.width(), std::max(trackSize.height(), fontMetrics().height()) + 2};
+    const int textWidth = std::max(lineWidth(*this, text()), lineWidth(*this, m_roomFor));
+    return {(textWidth > 0 ? textWidth + gap : 0) + trackSize.width(),
+        std::max(trackSize.height(), fontMetrics().height()) + 2};
 }
 
 void ToggleSwitch::hideEvent(QHideEvent* event)

@@ -13,6 +13,9 @@ class ToggleSwitch : public QCheckBox {
 public:
     explicit ToggleSwitch(const QString& title);
 
+    /// As wide as one with that title, if this is wider: switches below each other then stand in one line.
+    void makeRoomFor(const QString& title) { m_roomFor = title; }
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -24,6 +27,7 @@ protected:
 private:
     void moveKnob(bool isOn);
 
+    QString m_roomFor;
     QVariantAnimation m_knob; ///< From 0 (off) to 1 (on).
 };
 

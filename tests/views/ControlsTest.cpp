@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QStyle>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -103,6 +104,30 @@ TEST_F(ControlsTest, PressingTheKnobDoesNotMoveIt)
     QTest::mouseMove(slider, besideItsMiddle + QPoint(0, 3));
 
     EXPECT_EQ(slider->value(), 25);
+}
+
+TEST_F(ControlsTest, TheTrackOfASliderReachesFromEdgeToEdgeAndIsLighterInside)
+{
+    slider->setValue(70);
+    const auto picture = slider->grab().toImage();
+    const auto ratio = picture.devicePixelRatio();
+    const auto at = [&](double x, double y) { return picture.pixelColor(QPointF(x * ratio, y * ratio).toPoint()); };
+    const double middle = slider->height() / 2.0;
+    const auto background = at(slider->width() / 2.0, 1);
+
+    EXPECT_NE(at(1, middle), background);
+    EXPECT_NE(at(slider->width() - 2, middle), background);
+    EXPECT_EQ(at(slider->width() - 20, middle), color(ColorName::control, *slider));
+}
+
+TEST_F(ControlsTest, TheCaretIsNotDrawnBesideSelectedText)
+{
+    const auto caret = [this] { return field->style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, field); };
+    field->setText("25");
+    EXPECT_GT(caret(), 0);
+
+    field->selectAll();
+    EXPECT_EQ(caret(), 0);
 }
 
 TEST_F(ControlsTest, ASliderMovesByOneWithTheArrowKeys)

@@ -63,6 +63,21 @@ TEST_F(SettingsSheetTest, StandsInTheMiddleOfItsCard)
         EXPECT_NEAR(middle(widget), 250, 1) << nameOf(widget).toStdString();
 }
 
+TEST_F(SettingsSheetTest, TheSwitchesOfTheMusicStandInOneLineAndItsGroupsApart)
+{
+    settings.enableFocusMusic.set(true);
+    open();
+    const auto focus = frame(find<ToggleSwitch>("Enable music during focus"));
+    const auto breakTime = frame(find<ToggleSwitch>("Enable music during break"));
+    const auto source = frame(find<PopUpPicker>("Preset"));
+
+    EXPECT_EQ(focus.left(), breakTime.left());
+    EXPECT_EQ(focus.right(), breakTime.right());
+    const int within = source.top() - focus.bottom() - 1;
+    EXPECT_EQ(within, 12);
+    EXPECT_GE(frame(find<TextLabel>("Volume")).top() - breakTime.bottom() - 1, 2 * within);
+}
+
 TEST_F(SettingsSheetTest, OffersEverySoundAndEveryPresetInOrder)
 {
     open();

@@ -35,7 +35,7 @@ class Volume(unittest.TestCase):
     def drag_volume(self, sheet, start, end):
         """From one volume to another, by the knob."""
         x, y, width, height = sheet.slider("Volume").rectangle
-        place = [x + 11 + round(volume * (width - 22)) for volume in (start, end)]
+        place = [x + 9 + round(volume * (width - 18)) for volume in (start, end)]
         self.desktop.press(place[0], y + height // 2)
         for step in range(1, 11):
             self.desktop.move(place[0] + (place[1] - place[0]) * step // 10, y + height // 2)
