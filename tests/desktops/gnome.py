@@ -1,0 +1,86 @@
+# SPDX-License-Identifier: MIT
+"""GNOME Shell on Wayland, without an extension, as Debian installs it."""
+import json
+
+from desktop import Desktop, Window
+
+_DEVICES = """
+const {Clutter, GLib} = imports.gi;
+if (!global._pointer) {
+    const seat = Clutter.get_default_backend().get_default_seat();
+    global._pointer = seat.create_virtual_device(Clutter.InputDeviceType.POINTER_DEVICE);
+    global._keyboard = seat.create_virtual_device(Clutter.InputDeviceType.KEYBOARD_DEVICE);
+}
+const now = () => GLib.get_monotonic_time();
+"""
+_KEYS = {"Escape": 0xff1b, "Return": 0xff0d, "Tab": 0xff09}
+
+
+class Gnome(Desktop):
+    PACKAGES = ["gnome-shell"]
+    START = """
+export XDG_CURRENT_DESKTOP=GNOME XDG_SESSION_TYPE=wayland XDG_SESSION_DESKTOP=gnome
+gsettings set org.gnome.shell welcome-dialog-last-shown-version 99
+gsettings set org.gnome.desktop.session idle-delay 0
+gnome-shell --headless --wayland --virtual-monitor 1280x800 --unsafe-mode &
+until ls $XDG_RUNTIME_DIR/.mutter-Xwaylandauth* && [ -S $XDG_RUNTIME_DIR/wayland-0 ]; do sleep 0.2; done >/dev/null 2>&1
+export WAYLAND_DISPLAY=wayland-0 DISPLAY=:0 XAUTHORITY=$(ls $XDG_RUNTIME_DIR/.mutter-Xwaylandauth*)
+sleep 3 # the shell shows its overview
+env | grep -E '^(HOME|XDG_|DBUS|PATH|LANG|USER|LOGNAME|WAYLAND_|DISPLAY|XAUTHORITY)' > $XDG_RUNTIME_DIR/session
+wait
+"""
+
+    def prepare(self):
+        self._evaluate("imports.ui.main.overview.hide()")
+
+    def _evaluate(self, script):
+        printed = self.session.run("python3", "-c", _EVALUATE, _DEVICES + script)
+        return json.loads(printed)
+
+    def click(self, x, y, button=1):
+        for move in (x - 1, x):
+            self._evaluate(f"global._pointer.notify_absolute_motion(now(), {move}, {y}); 1")
+        for state in ("PRESSED", "RELEASED"):
+            self._evaluate(f"global._pointer.notify_button(now(), {button}, Clutter.ButtonState.{state}); 1")
+
+    def type(self, text):
+        for letter in text:
+            self._press(ord(letter))
+
+    def key(self, name):
+        self._press(_KEYS[name])
+
+    def _press(self, symbol):
+        self._evaluate(f"""for (const state of [Clutter.KeyState.PRESSED, Clutter.KeyState.RELEASED])
+                               global._keyboard.notify_keyval(now(), {symbol}, state); 1""")
+
+    def picture(self, path):
+        self.session.run("gdbus", "call", "--session", "--dest", "org.gnome.Shell.Screenshot", "--object-path",
+                         "/org/gnome/Shell/Screenshot", "--method", "org.gnome.Shell.Screenshot.Screenshot", "true",
+                         "false", "/tmp/picture.png")
+        with open(path, "wb") as file:
+            file.write(self.session.run_bytes("cat", "/tmp/picture.png"))
+
+    def windows(self):
+        return [Window(title, tuple(rectangle), focused) for title, rectangle, focused in self._evaluate("""
+            global.get_window_actors().filter(actor => actor.visible).map(actor => {
+                const window = actor.meta_window, r = window.get_frame_rect();
+                return [window.title, [r.x, r.y, r.width, r.height], window.has_focus()];
+            })""")]
+
+    def item_place(self):
+        x, y, width, height = next(window.rectangle for window in self.windows()
+                                   if window.title == "velto" and window.rectangle[3] < 60)
+        return x + width // 2, y + height // 2
+
+
+_EVALUATE = """
+import json, sys
+from gi.repository import Gio, GLib
+bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+ok, result = bus.call_sync("org.gnome.Shell", "/org/gnome/Shell", "org.gnome.Shell", "Eval",
+                           GLib.Variant("(s)", (sys.argv[1],)), None, 0, 10000, None).unpack()
+if not ok:
+    sys.exit(result)
+print(result or "null")
+"""

@@ -1,0 +1,97 @@
+# SPDX-License-Identifier: MIT
+"""The stories that are the same on every desktop. `desktop` is set by scripts/check-desktops."""
+import string
+import time
+import unittest
+
+from waiting import holds, wait_for
+
+desktop = None
+
+
+class Story(unittest.TestCase):
+    settings = ["focusMinutes=25"]
+
+    def setUp(self):
+        x, y, width, height = desktop.window("editor").rectangle
+        self.beside = x + 20, y + height - 20
+        desktop.click(*self.beside)
+        wait_for(lambda: desktop.window("editor").focused, what="the keyboard in the editor")
+        desktop.velto("start", *self.settings)
+        self.addCleanup(desktop.end_velto)
+        wait_for(lambda: desktop.card, what="the card, shown at launch")
+
+    def click_item(self, button=1):
+        # Sooner, it is a double click to some bars, or belongs to the press that has just hidden the card.
+        time.sleep(1)
+        desktop.click(*desktop.item_place(), button)
+
+    def hide(self):
+        self.click_item()
+        wait_for(lambda: not desktop.card, what="the hidden card")
+
+    def show(self):
+        self.click_item()
+        wait_for(lambda: desktop.card, what="the card")
+
+    def form_is_used(self):
+        """It lies above the card and has the keyboard."""
+        ours = [window for window in desktop.windows() if desktop.is_card(window) or desktop.is_form(window)]
+        return [desktop.is_form(window) for window in ours] == [False, True] and ours[1].focused
+
+
+class Stories(Story):
+    def test_the_time_is_seen(self):
+        self.assertEqual(desktop.velto("label"), "25:00")
+        desktop.save_picture("launch")
+
+    def test_clicks_on_the_time_toggle_the_card(self):
+        for _ in range(3):
+            self.hide()
+            self.show()
+        desktop.save_picture("card")
+
+    def test_a_press_elsewhere_hides_the_card(self):
+        self.hide()
+        self.show()
+        desktop.click(*self.beside)
+        wait_for(lambda: not desktop.card, what="the hidden card")
+        wait_for(lambda: desktop.window("editor").focused, what="the keyboard in the editor")
+
+    def test_a_right_click_on_the_time_leaves_the_card(self):
+        self.click_item(3)
+        holds(lambda: desktop.card, 1, "the card beside the menu")
+        desktop.save_picture("menu")
+        desktop.key("Escape")
+
+    def test_the_form_comes_back_on_the_card_with_the_keyboard(self):
+        desktop.velto("choose", "Settings…")
+        wait_for(self.form_is_used, what="the form, to be used")
+        for _ in range(2):
+            desktop.click(*self.beside)
+            wait_for(lambda: not desktop.card and not desktop.form, what="hidden card and form")
+            self.show()
+            wait_for(self.form_is_used, what="the form, to be used")
+        desktop.save_picture("form")
+        desktop.key("Escape")
+        wait_for(lambda: desktop.card and not desktop.form, what="the card without the form")
+
+
+class Letters(unittest.TestCase):
+    def test_a_card_that_comes_by_itself_takes_no_letter(self):
+        letters = string.ascii_lowercase + string.digits
+        x, y, width, height = desktop.window("editor").rectangle
+        desktop.click(x + 20, y + height - 20)
+        wait_for(lambda: desktop.window("editor").focused, what="the keyboard in the editor")
+        before = desktop.typed
+        self.addCleanup(desktop.end_velto)
+
+        for number, letter in enumerate(letters):
+            if number == 4:
+                desktop.velto("start", "focusMinutes=0")
+            elif number == 18:
+                desktop.velto("choose", "Start Focus")
+            desktop.type(letter)
+        wait_for(lambda: desktop.velto("label") == "05:00", what="the end of the phase")
+
+        self.assertEqual(desktop.typed[len(before):], letters)
