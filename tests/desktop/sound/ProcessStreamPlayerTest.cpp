@@ -185,11 +185,9 @@ TEST_F(ProcessStreamPlayerTest, ComesBackWhenTheStreamStalls)
 {
     listenTo(streams.url("stalling"));
     ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
-    ASSERT_TRUE(eventually([&] { return !toneIsHeard(); }));
-    const auto silent = Clock::now();
 
     EXPECT_TRUE(eventually([&] { return streams.connections() == 2; }));
-    EXPECT_LT(Clock::now() - silent, 10s);
+    EXPECT_LT(Clock::now() - recording->lastSound(), 10s);
     EXPECT_TRUE(eventually([&] { return toneIsHeard(); }));
 }
 

@@ -31,6 +31,7 @@ WatchedApplication::WatchedApplication(int& argc, char** argv) :
     QCoreApplication(argc, argv),
     m_heart([this](const std::stop_token& stop) { beat(stop); })
 {
+    awaitBeat(); // It has opened all that it will.
 }
 
 WatchedApplication& WatchedApplication::instance()
@@ -78,6 +79,12 @@ void WatchedApplication::beat(const std::stop_token& stop)
     }
 }
 
+void WatchedApplication::awaitBeat() const
+{
+    for (const int beats = m_beats; m_beats == beats;)
+        std::this_thread::sleep_for(1ms);
+}
+
 std::chrono::nanoseconds WatchedApplication::ownTime()
 {
     return std::chrono::steady_clock::now().time_since_epoch() - timeQueued();
@@ -96,8 +103,7 @@ WatchedApplication::Turn::~Turn()
     if (length <= m_application.m_longest)
         return;
     // Whether the machine stood still is known after the next beat.
-    for (const int beats = m_application.m_beats; m_application.m_beats == beats;)
-        std::this_thread::sleep_for(1ms);
+    m_application.awaitBeat();
     m_application.m_longest
         = std::max(m_application.m_longest, length - (m_application.m_standstill.load() - m_standstill));
 }

@@ -51,6 +51,7 @@ private:
     };
 
     void beat(const std::stop_token& stop);
+    void awaitBeat() const;
     /// Since some moment: how long the calling thread has been waiting or computing.
     [[nodiscard]] static std::chrono::nanoseconds ownTime();
 
