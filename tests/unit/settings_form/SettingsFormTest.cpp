@@ -128,6 +128,21 @@ TEST_F(SettingsFormTest, ApplyingWritesEveryEditedValue)
     EXPECT_EQ(settings.musicVolume(), 0.75F);
 }
 
+TEST_F(SettingsFormTest, TheMusicOfEachPhaseIsSwitchedOnItsOwn)
+{
+    settings.enableBreakMusic.set(true);
+    open();
+    EXPECT_FALSE(form->enableFocusMusic());
+    EXPECT_TRUE(form->enableBreakMusic());
+
+    form->enableFocusMusic.set(true);
+    form->enableBreakMusic.set(false);
+    form->apply();
+
+    EXPECT_TRUE(settings.enableFocusMusic());
+    EXPECT_FALSE(settings.enableBreakMusic());
+}
+
 // Durations.
 
 TEST_F(SettingsFormTest, OtherBreakMinutesLeaveARunningFocusAlone)
