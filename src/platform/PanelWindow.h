@@ -19,8 +19,8 @@ public:
     /// Gives it the keyboard, or the sheet on it while there is one, until it is left or hidden. What had the
     /// keyboard then has it again. No effect while hidden.
     virtual void makeKey() = 0;
-    /// The user asked to see it. Gives it the keyboard where only losing that shows that the user has gone
-    /// elsewhere.
+    /// The user asks to see it. Gives the keyboard to the sheet on it while there is one, and to itself where only the
+    /// loss of that says that the user has gone elsewhere.
     virtual void makeKeyIfNeeded() = 0;
 };
 

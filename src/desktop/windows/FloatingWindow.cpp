@@ -78,7 +78,10 @@ void FloatingWindow::takeKeyboard()
 
 void FloatingWindow::takeKeyboardIfNeeded()
 {
-    (sheet() ? sheet() : this)->m_keyboard.takeAsAskedFor();
+    if (sheet())
+        takeKeyboard();
+    else
+        m_keyboard.takeAsAskedFor();
 }
 
 void FloatingWindow::setVisible(bool visible)

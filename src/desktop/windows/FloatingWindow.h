@@ -28,7 +28,8 @@ public:
     /// Fetches the keyboard for the content's first control, or for the one that had it last; with another
     /// floating window on this one, for that. It goes back as it does after use. No effect while hidden.
     void takeKeyboard();
-    /// The user wants to see it now: fetches the keyboard if its focus is one that is taken.
+    /// The user wants to see it now: fetches the keyboard if its focus is one that is taken, or for another
+    /// floating window on this one.
     void takeKeyboardIfNeeded();
 
     void setVisible(bool visible) override;

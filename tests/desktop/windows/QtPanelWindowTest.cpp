@@ -468,6 +468,26 @@ TEST_F(QtPanelWindowTest, ASheetIsMappedAfterItsCardEachTime)
     }
 }
 
+TEST_F(QtPanelWindowTest, ASheetThatComesBackWithACardThatIsAskedForHasTheKeyboard)
+{
+    Desktop::current().startWindowManager();
+    const auto other = focusedWindow();
+    FakeRunLoop runLoop;
+    QtScreens screens{runLoop};
+    SheetWindow sheet{std::make_unique<QLineEdit>(), *surface, screens, [] {}};
+    show();
+    panel->makeKeyIfNeeded();
+    EXPECT_TRUE(stays([&] { return other->hasKeyboard(); })) << "the card alone";
+    panel->orderOut();
+
+    sheet.show();
+    show();
+    EXPECT_TRUE(stays([&] { return other->hasKeyboard(); })) << "shown by itself";
+    panel->makeKeyIfNeeded();
+
+    EXPECT_TRUE(eventually([&] { return sheet.isActiveWindow() && !other->hasKeyboard(); }));
+}
+
 TEST_F(QtPanelWindowTest, ASheetThatIsHiddenBeforeItsCardIsOnTheScreenStaysHidden)
 {
     FakeRunLoop runLoop;
