@@ -22,12 +22,6 @@ namespace {
 constexpr std::array settlingTimes{300ms, 1500ms};
 constexpr auto goodFor = 5s;
 
-bool canSeeTheScreen()
-{
-    // Under Wayland an X server shows its own windows only.
-    return x11::connection() && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-}
-
 bool mayChangeABar(xcb_atom_t property)
 {
     static const std::array properties{x11::atom("_XROOTPMAP_ID"), x11::atom("_NET_CLIENT_LIST"),
@@ -81,7 +75,7 @@ QColor medianOf(const QImage& picture)
 
 BarColor::BarColor()
 {
-    if (!canSeeTheScreen())
+    if (!x11::seesTheScreen())
         return;
     m_settle.setSingleShot(true);
     connect(&m_settle, &QTimer::timeout, this, &BarColor::lookAfterChange);
@@ -94,7 +88,7 @@ BarColor::BarColor()
 
 void BarColor::setItem(const QRect& item)
 {
-    if (item == m_item || !canSeeTheScreen())
+    if (item == m_item || !x11::seesTheScreen())
         return;
     m_item = item;
     findPlace();
@@ -118,7 +112,7 @@ bool BarColor::nativeEventFilter(const QByteArray& /*eventType*/, void* message,
 
 void BarColor::lookSoon()
 {
-    if (!canSeeTheScreen())
+    if (!x11::seesTheScreen())
         return;
     m_looksToCome = settlingTimes.size();
     m_settle.start(settlingTimes.front());

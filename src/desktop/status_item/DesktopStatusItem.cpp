@@ -17,6 +17,7 @@
 #include <QApplication>
 #include <QCursor>
 #include <QEvent>
+#include <QScreen>
 
 #include <chrono>
 #include <cmath>
@@ -253,7 +254,7 @@ QColor DesktopStatusItem::barColor() const
 
 void DesktopStatusItem::clickedInBar(ClickEvent::Kind kind, QPoint claimed)
 {
-    const auto surroundings = clickSurroundings(claimed);
+    const auto surroundings = clickSurroundings(claimed, m_traits.tellsPlace);
     if (const auto found = statusAnchor(surroundings.place)) {
         m_lastAnchor = toPoints(*found).toAlignedRect();
         m_barColor.setItem(*m_lastAnchor);
@@ -271,7 +272,13 @@ void DesktopStatusItem::clicked(ClickEvent click)
 
 std::optional<QRect> DesktopStatusItem::anchor() const
 {
-    return m_strip ? m_strip->geometry() : m_lastAnchor;
+    if (m_strip)
+        return m_strip->geometry();
+    const auto* screen = QGuiApplication::primaryScreen();
+    if (m_lastAnchor || !screen || !hasHost() || !m_traits.isAtTopRight)
+        return m_lastAnchor;
+    const auto bar = edgesAround(screen->availableGeometry(), screen->geometry()).front();
+    return QRect(bar.right(), bar.top(), 1, bar.height());
 }
 
 std::shared_ptr<MenuItem> DesktopStatusItem::panelItem()

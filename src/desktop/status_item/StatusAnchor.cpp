@@ -13,17 +13,18 @@ constexpr int agreement = 64;
 
 std::optional<QRect> statusAnchor(const ClickPlace& place)
 {
-    if (!place.pointer)
+    const auto click = place.claimIsTrue ? place.claimed : place.pointer;
+    if (!click)
         return std::nullopt;
-    const QRect around(place.pointer->x() - itemSide / 2, place.pointer->y() - itemSide / 2, itemSide, itemSide);
-    if (place.bar && place.bar->contains(*place.pointer)) {
+    const QRect around(click->x() - itemSide / 2, click->y() - itemSide / 2, itemSide, itemSide);
+    if (place.bar && place.bar->contains(*click)) {
         const auto& bar = *place.bar;
         const bool horizontal = bar.width() >= bar.height();
         const QRect piece = horizontal ? QRect(around.x(), bar.y(), around.width(), bar.height())
                                        : QRect(bar.x(), around.y(), bar.width(), around.height());
         return piece & bar;
     }
-    const QRect near(place.pointer->x() - agreement, place.pointer->y() - agreement, 2 * agreement, 2 * agreement);
+    const QRect near(click->x() - agreement, click->y() - agreement, 2 * agreement, 2 * agreement);
     if (near.contains(place.claimed))
         return around;
     return std::nullopt;

@@ -13,6 +13,7 @@ struct ClickPlace {
     std::optional<QPoint> pointer; ///< Absent when the pointer can't be asked.
     std::optional<QRect> bar;      ///< The panel bar that the pointer stands in.
     QPoint claimed;                ///< What the host says; may be nonsense.
+    bool claimIsTrue = false;      ///< It is the place of the click; `bar` is the one there.
 };
 
 /// The status item's rectangle after a click: the piece of the bar around the pointer; outside of any

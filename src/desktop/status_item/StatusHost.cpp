@@ -16,11 +16,12 @@ struct Known {
     StatusHostTraits traits;
 };
 
-constexpr StatusHostTraits gnome{TimeShape::label, true, true};
+constexpr StatusHostTraits gnome{TimeShape::label, true, true, true, true};
 constexpr StatusHostTraits indicators{TimeShape::label, false, false};
 constexpr StatusHostTraits wide{TimeShape::widePicture, false, false};
 constexpr StatusHostTraits wideOnDark{TimeShape::widePicture, true, false};
 constexpr StatusHostTraits square{TimeShape::squarePicture, false, false};
+constexpr StatusHostTraits plasma{TimeShape::squarePicture, false, false, true};
 constexpr StatusHostTraits squareOnDark{TimeShape::squarePicture, true, false};
 
 constexpr std::array knownProcesses{
@@ -36,7 +37,7 @@ constexpr std::array knownProcesses{
     Known{"wrapper-2.0", squareOnDark}, // XFCE's plug-ins run in it
     Known{"xfce4-panel", squareOnDark},
     Known{"lxqt-panel", squareOnDark},
-    Known{"plasmashell", square},
+    Known{"plasmashell", plasma},
 };
 
 // They keep the list of items and leave the showing to others.
@@ -86,6 +87,8 @@ StatusHostTraits recognizeStatusHost(const StatusHostFacts& facts)
         common->shape = std::max(common->shape, traits.shape);
         common->barIsDark = common->barIsDark && traits.barIsDark;
         common->leftClickOpensMenu = common->leftClickOpensMenu || traits.leftClickOpensMenu;
+        common->tellsPlace = common->tellsPlace && traits.tellsPlace;
+        common->isAtTopRight = common->isAtTopRight && traits.isAtTopRight;
     }
     return common.value_or(ofDesktop(facts.desktop));
 }

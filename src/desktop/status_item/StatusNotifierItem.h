@@ -29,6 +29,7 @@ class StatusNotifierItem : public QObject, protected QDBusContext {
     Q_PROPERTY(QString IconThemePath READ nothing)
     Q_PROPERTY(QString IconName READ nothing)
     Q_PROPERTY(velto::DBusPictures IconPixmap READ pictures)
+    Q_PROPERTY(QString IconAccessibleDesc READ description)
     Q_PROPERTY(QString OverlayIconName READ nothing)
     Q_PROPERTY(velto::DBusPictures OverlayIconPixmap READ noPictures)
     Q_PROPERTY(QString AttentionIconName READ nothing)
@@ -79,6 +80,7 @@ private:
     [[nodiscard]] DBusPictures pictures() const { return m_pictures; }
     [[nodiscard]] DBusPictures noPictures() const { return {}; }
     [[nodiscard]] DBusToolTip toolTip() const { return m_toolTip; }
+    [[nodiscard]] QString description() const { return m_toolTip.title; }
     [[nodiscard]] bool itemIsMenu() const { return false; }
     [[nodiscard]] QDBusObjectPath menu() const;
     [[nodiscard]] QString label() const { return m_label; }

@@ -11,6 +11,12 @@ namespace velto {
 
 namespace {
 
+bool isOnAScreen(QPoint position)
+{
+    const auto* screen = screenAtPixel(position);
+    return screen && toPixels(screen->geometry(), *screen).contains(position);
+}
+
 /// The strip along an edge of the screen that is kept free of windows.
 std::optional<QRect> edgeStripAt(QPoint position)
 {
@@ -33,16 +39,17 @@ std::optional<QRect> barAt(const x11::Pointer& pointer)
     return dock != pointer.windows.end() ? x11::geometry(*dock) : edgeStripAt({pointer.x, pointer.y});
 }
 
-ClickSurroundings clickSurroundings(QPoint claimed)
+ClickSurroundings clickSurroundings(QPoint claimed, bool hostTellsPlace)
 {
     ClickSurroundings result;
     result.place.claimed = claimed;
+    result.place.claimIsTrue = hostTellsPlace && !x11::seesTheScreen() && isOnAScreen(claimed);
     if (!x11::connection())
         return result;
     const auto pointer = x11::pointer();
     result.controlIsHeld = pointer.controlIsHeld;
     result.place.pointer = QPoint(pointer.x, pointer.y);
-    result.place.bar = barAt(pointer);
+    result.place.bar = result.place.claimIsTrue ? edgeStripAt(claimed) : barAt(pointer);
     return result;
 }
 

@@ -16,7 +16,8 @@ struct ClickSurroundings {
     bool controlIsHeld = false;
 };
 
-/// `claimed` is what the host says of the place. On a display that is no X server, that is all there is.
-[[nodiscard]] ClickSurroundings clickSurroundings(QPoint claimed);
+/// `claimed` is what the host says of the place. Where there is no X server for the whole screen, that is all there is:
+/// `hostTellsPlace` says what it is worth there.
+[[nodiscard]] ClickSurroundings clickSurroundings(QPoint claimed, bool hostTellsPlace);
 
 } // namespace velto

@@ -64,6 +64,11 @@ xcb_connection_t* connection()
     return native ? native->connection() : nullptr;
 }
 
+bool seesTheScreen()
+{
+    return connection() && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+}
+
 xcb_window_t rootWindow()
 {
     return xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;

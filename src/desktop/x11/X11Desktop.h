@@ -19,6 +19,9 @@ namespace velto::x11 {
 [[nodiscard]] bool serverAnswers();
 /// Null when the application does not run on X11; then only functions that say so may be called here.
 [[nodiscard]] xcb_connection_t* connection();
+/// Whether that server has the whole screen. One that serves a Wayland session sees its own windows only, and the
+/// pointer only over them.
+[[nodiscard]] bool seesTheScreen();
 [[nodiscard]] xcb_window_t rootWindow();
 [[nodiscard]] bool hasWindowManager();
 /// The name of the one there is; empty for none.

@@ -42,6 +42,13 @@ TEST(StatusAnchorTest, OutsideOfBarsTheHostHasToAgreeWithThePointer)
     EXPECT_EQ(statusAnchor({QPoint(400, 300), std::nullopt, nonsense}), std::nullopt);
 }
 
+TEST(StatusAnchorTest, AHostThatTellsTheTrueWhereaboutsNeedsNoPointer)
+{
+    EXPECT_EQ(statusAnchor({std::nullopt, topBar, {1000, 20}, true}), QRect(988, 0, 24, 28));
+    EXPECT_EQ(statusAnchor({QPoint(5, 900), topBar, {1000, 20}, true}), QRect(988, 0, 24, 28));
+    EXPECT_EQ(statusAnchor({std::nullopt, std::nullopt, {400, 300}, true}), QRect(388, 288, 24, 24));
+}
+
 TEST(StatusAnchorTest, IsUnknownWithoutAPointer)
 {
     EXPECT_EQ(statusAnchor({std::nullopt, std::nullopt, {100, 10}}), std::nullopt);

@@ -26,6 +26,22 @@ TEST_P(StatusHostTest, IsKnownByItsProcessesElseByTheDesktop)
     EXPECT_EQ(traits.leftClickOpensMenu, GetParam().leftClickOpensMenu);
 }
 
+TEST(StatusHostPlaceTest, IsToldByTheShellsOfGnomeAndPlasmaOnly)
+{
+    EXPECT_TRUE(recognizeStatusHost({"GNOME", {"gnome-shell"}}).tellsPlace);
+    EXPECT_TRUE(recognizeStatusHost({"KDE", {"kded5", "plasmashell"}}).tellsPlace);
+    EXPECT_FALSE(recognizeStatusHost({"sway", {"waybar"}}).tellsPlace);
+    EXPECT_FALSE(recognizeStatusHost({"X-Cinnamon", {"xapp-sn-watcher", "cinnamon"}}).tellsPlace);
+    EXPECT_FALSE(recognizeStatusHost({"KDE", {"plasmashell", "waybar"}}).tellsPlace);
+}
+
+TEST(StatusHostPlaceTest, IsKnownBeforeAnyClickOnGnomeOnly)
+{
+    EXPECT_TRUE(recognizeStatusHost({"GNOME", {"gnome-shell"}}).isAtTopRight);
+    EXPECT_FALSE(recognizeStatusHost({"KDE", {"plasmashell"}}).isAtTopRight);
+    EXPECT_FALSE(recognizeStatusHost({"GNOME", {"gnome-shell", "waybar"}}).isAtTopRight);
+}
+
 constexpr auto label = TimeShape::label;
 constexpr auto wide = TimeShape::widePicture;
 constexpr auto square = TimeShape::squarePicture;

@@ -57,6 +57,7 @@ TEST_F(StatusNotifierItemTest, SaysWhatItIs)
     EXPECT_EQ(property("Status"), QStringLiteral("Active"));
     EXPECT_EQ(property("ItemIsMenu"), QVariant(false));
     EXPECT_EQ(property("IconName"), QString());
+    EXPECT_EQ(property("IconAccessibleDesc"), QStringLiteral("Velto"));
     EXPECT_EQ(property("Menu").value<QDBusObjectPath>().path(), QStringLiteral("/MenuBar"));
     EXPECT_EQ(property("XAyatanaLabelGuide"), QStringLiteral("00:00"));
     EXPECT_EQ(qdbus_cast<DBusToolTip>(property("ToolTip")).title, QStringLiteral("Velto"));
