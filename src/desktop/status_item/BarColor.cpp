@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QPixmap>
 #include <QScreen>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <array>
@@ -19,7 +20,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr std::array settlingTimes{300ms, 1500ms};
+constexpr std::array settlingTimes{300ms, 2500ms};
 constexpr auto goodFor = 5s;
 
 bool mayChangeABar(xcb_atom_t property)
@@ -81,6 +82,11 @@ BarColor::BarColor()
     connect(&m_settle, &QTimer::timeout, this, &BarColor::lookAfterChange);
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &BarColor::lookSoon);
     qApp->installNativeEventFilter(this);
+    // Plasma's shell finds its theme changed in a file, and nobody else is told.
+    if (qgetenv("XDG_CURRENT_DESKTOP").split(':').contains("KDE")) {
+        m_plasmaSettings.addPath(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+        connect(&m_plasmaSettings, &QFileSystemWatcher::directoryChanged, this, &BarColor::lookSoon);
+    }
     findPlace();
     look();
     lookSoon();

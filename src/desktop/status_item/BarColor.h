@@ -4,6 +4,7 @@
 #include <QAbstractNativeEventFilter>
 #include <QColor>
 #include <QElapsedTimer>
+#include <QFileSystemWatcher>
 #include <QObject>
 #include <QRect>
 #include <QTimer>
@@ -56,6 +57,7 @@ private:
     std::optional<QRect> m_item;
     std::optional<Bar> m_place; ///< The part of a bar to look at.
     std::optional<QColor> m_color;
+    QFileSystemWatcher m_plasmaSettings;
     QTimer m_settle;
     int m_looksToCome = 0;
     QElapsedTimer m_lastLook;

@@ -92,6 +92,8 @@ void DesktopStatusItem::enterBus()
             [this] { m_gesture.menuClosed(); }});
     m_bus.connection().connect({}, {}, QStringLiteral("org.xfce.Xfconf"), QStringLiteral("PropertyChanged"),
         {QStringLiteral("xfce4-panel")}, {}, &m_barColor, SLOT(lookSoon()));
+    m_bus.connection().connect({}, {}, QStringLiteral("org.kde.KGlobalSettings"), QStringLiteral("notifyChange"),
+        &m_barColor, SLOT(lookSoon()));
     connect(&m_onBus->hosts, &StatusHostMonitor::watcherMissing, this, &DesktopStatusItem::showStrip);
     connect(&m_onBus->hosts, &StatusHostMonitor::hostChanged, this, &DesktopStatusItem::hostChanged);
     m_onBus->item.setToolTip(m_toolTip);
