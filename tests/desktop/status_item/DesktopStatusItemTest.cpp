@@ -232,6 +232,8 @@ TEST_F(DesktopStatusItemTest, PopsUpAMenuThatFollowsItsValues)
     menu->willOpen = [&] { ++opened; };
     quit->action = [&](const MenuItem&) { chosen = true; };
 
+    // A window that comes closes menus.
+    ASSERT_TRUE(eventually([] { return shown<StripWindow>() != nullptr; }));
     item->popUpMenu();
     auto* window = shown<QMenu>();
     ASSERT_NE(window, nullptr);
