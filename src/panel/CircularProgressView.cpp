@@ -2,8 +2,8 @@
 #include "panel/CircularProgressView.h"
 
 #include <QAccessibleWidget>
+#include <QPaintEvent>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
 #include <cmath>
@@ -62,6 +62,8 @@ CircularProgressView::CircularProgressView(int diameter)
     constexpr int outside = lineWidth / 2;
     setContentsMargins(outside, outside, outside, outside);
     setFixedSize(diameter + 2 * outside, diameter + 2 * outside);
+    m_track.addEllipse(rect());
+    m_track.addEllipse(rect().adjusted(lineWidth, lineWidth, -lineWidth, -lineWidth));
     connect(&m_arcMotion, &QVariantAnimation::valueChanged, this, &CircularProgressView::redrawArc);
     connect(&m_colorMotion, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
 }
@@ -101,9 +103,12 @@ QAccessibleInterface* CircularProgressView::makeAccessible()
     return new RingInterface(this);
 }
 
-void CircularProgressView::paintEvent(QPaintEvent*)
+void CircularProgressView::paintEvent(QPaintEvent* event)
 {
     const QRectF circle = contentsRect();
+    // Nothing of it is inside, where digits move.
+    if (std::ranges::all_of(event->region(), [&](const QRectF& part) { return isInside(part); }))
+        return;
     const auto color = drawnColor();
     const double progress = drawnProgress();
 
@@ -112,8 +117,7 @@ void CircularProgressView::paintEvent(QPaintEvent*)
     painter.setBrush(Qt::NoBrush);
     auto trackColor = color;
     trackColor.setAlphaF(trackOpacity);
-    painter.setPen(QPen(trackColor, lineWidth));
-    painter.drawEllipse(circle);
+    painter.fillPath(m_track, trackColor);
 
     if (progress <= 0)
         return;
@@ -141,11 +145,22 @@ QPointF CircularProgressView::pointAt(double fraction) const
     return circle.center() + QPointF(std::sin(angle), -std::cos(angle)) * (circle.width() / 2);
 }
 
+bool CircularProgressView::isInside(const QRectF& part) const
+{
+    const QPointF center = QRectF(contentsRect()).center();
+    const double x = std::max(std::abs(part.left() - center.x()), std::abs(part.right() - center.x()));
+    const double y = std::max(std::abs(part.top() - center.y()), std::abs(part.bottom() - center.y()));
+    return std::hypot(x, y) < contentsRect().width() / 2.0 - lineWidth / 2.0;
+}
+
 void CircularProgressView::redrawArc()
 {
-    const double before = std::exchange(m_redrawn, drawnProgress());
-    if (before == m_redrawn)
+    // Of a long phase a second is less than a point, which needs no frames of its own.
+    constexpr double seen = 0.25;
+    const double way = std::abs(drawnProgress() - m_redrawn) * std::numbers::pi * contentsRect().width();
+    if (way == 0 || (m_arcMotion.value() < 1 && way < seen))
         return;
+    const double before = std::exchange(m_redrawn, drawnProgress());
     constexpr double shortWay = 0.05;
     if (std::abs(m_redrawn - before) > shortWay) {
         update();

@@ -5,6 +5,8 @@
 #include "style/Colors.h"
 #include "style/Motion.h"
 
+#include <QPainterPath>
+
 namespace velto {
 
 /// The ring: an arc that grows clockwise from twelve o'clock, on a pale full circle.
@@ -36,7 +38,10 @@ private:
     [[nodiscard]] QColor drawnColor() const;
     [[nodiscard]] QPointF pointAt(double fraction) const;
     void redrawArc();
+    /// Whether the ring does not touch `part`.
+    [[nodiscard]] bool isInside(const QRectF& part) const;
 
+    QPainterPath m_track;
     double m_progress = 0;
     double m_from = 0;    ///< Where the arc's motion began.
     double m_redrawn = 0; ///< What the last request to paint was for.

@@ -4,6 +4,8 @@
 #include "style/Drawing.h"
 #include "style/Stack.h"
 
+#include <QPaintEvent>
+
 #include <cmath>
 #include <utility>
 
@@ -24,9 +26,9 @@ PanelContainerView::PanelContainerView(PomodoroTimer& timer, AppSettings& settin
     setLayout(column({.padding = {padding, padding, padding, padding}}, content));
 }
 
-void PanelContainerView::paintEvent(QPaintEvent*)
+void PanelContainerView::paintEvent(QPaintEvent* event)
 {
-    drawCard(*this);
+    drawCard(*this, event->region());
 }
 
 } // namespace velto

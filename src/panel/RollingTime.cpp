@@ -120,8 +120,10 @@ std::vector<double> RollingTime::middlesOf(const QString& text) const
         return middles;
 
     const auto halfInk = [this](QChar character) { return m_glyphs.outline(character).boundingRect().width() / 2; };
-    // The last digit, which changes most, ends where the widest would: so the others need not move for it.
-    middles.back() += m_glyphs.digitWidth() / 2 - halfInk(text.back());
+    // The last digit, which changes most, ends where the widest would, so that the others need not move for it. A "1"
+    // would then stand too far off: it goes half of the way, and all of them the rest.
+    const double room = m_glyphs.digitWidth() / 2 - halfInk(text.back());
+    middles.back() += room > gap * m_fontSize ? room / 2 : room;
     const double left = middles.front() - halfInk(text.front());
     const double right = middles.back() + halfInk(text.back());
     for (auto& middle : middles)

@@ -15,6 +15,7 @@
 #include "style/ToggleSwitch.h"
 
 #include <QKeyEvent>
+#include <QPaintEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -141,9 +142,9 @@ void SettingsSheet::closeEvent(QCloseEvent*)
     cancel();
 }
 
-void SettingsSheet::paintEvent(QPaintEvent*)
+void SettingsSheet::paintEvent(QPaintEvent* event)
 {
-    drawCard(*this);
+    drawCard(*this, event->region());
 }
 
 void SettingsSheet::keyPressEvent(QKeyEvent* event)

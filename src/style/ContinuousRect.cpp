@@ -9,11 +9,10 @@ namespace velto {
 
 QPainterPath continuousRoundedRect(const QRectF& rect, double radius)
 {
-    // A corner reaches this far along the edges; the exponent follows from the shared diagonal point.
-    constexpr double reachPerRadius = 1.528665;
-    const double diagonal = (1 - std::numbers::sqrt2 / 2) / reachPerRadius;
+    // The exponent follows from the shared diagonal point.
+    const double diagonal = (1 - std::numbers::sqrt2 / 2) / cornerReach;
     const double exponent = -1 / std::log2(1 - diagonal);
-    const double reach = std::min({radius * reachPerRadius, rect.width() / 2, rect.height() / 2});
+    const double reach = std::min({radius * cornerReach, rect.width() / 2, rect.height() / 2});
 
     QPainterPath path;
     if (reach <= 0) {

@@ -5,6 +5,7 @@
 
 #include <QPainter>
 #include <QRectF>
+#include <QRegion>
 #include <QString>
 
 class QWidget;
@@ -29,8 +30,9 @@ void drawFocusRing(QPainter& painter, const QRectF& rect, double radius, const Q
 /// The rounded face of a control with a thin edge, if `outline` is valid.
 void drawBezel(QPainter& painter, const QRectF& rect, double radius, const QColor& face, const QColor& outline = {});
 
-/// A card as large as `widget`: the window's background in continuous corners, with an outline inside the edge.
-void drawCard(QWidget& widget, double radius = 18, ColorName outline = ColorName::cardOutline);
+/// A card as large as `widget`: the window's background in continuous corners, with an outline inside the edge. Only
+/// what is in `exposed` is drawn.
+void drawCard(QWidget& widget, const QRegion& exposed, double radius = 18, ColorName outline = ColorName::cardOutline);
 
 /// One line whose capital letters stand in the vertical middle of `rect`; too long a line ends in dots.
 void drawLine(QPainter& painter, const QRectF& rect, Qt::Alignment horizontally, const QString& text);

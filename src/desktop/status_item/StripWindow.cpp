@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QFontMetricsF>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QWindow>
@@ -78,10 +79,10 @@ public:
     }
 
 protected:
-    void paintEvent(QPaintEvent* /*event*/) override
+    void paintEvent(QPaintEvent* event) override
     {
         if (!m_isInBar)
-            drawCard(*this, radius, edge);
+            drawCard(*this, event->region(), radius, edge);
         auto ink = m_isInBar ? QColor::fromRgb(inkInBar) : color(ColorName::label, *this);
         if (m_appearsDisabled)
             ink.setAlphaF(0.5F);
