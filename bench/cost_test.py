@@ -12,7 +12,7 @@ VELTO, FLOOR = os.environ["VELTO_BIN"], os.environ["FLOOR_BIN"]
 
 
 def wait_until_quiet(pid):
-    wait_for(lambda: cost_a_second([[pid]], 1)[0][1] == 0, what="a program at rest")
+    wait_for(lambda: cost_a_second([[pid]], 3)[0][1] == 0, what="a program at rest")
 
 
 class Cost(unittest.TestCase):
@@ -56,7 +56,7 @@ class Cost(unittest.TestCase):
         velto.press("Start")
         self.hide_card(velto)
         floor = self.start_floor()
-        time.sleep(2)
+        time.sleep(4)  # the looks at the bar that follow a change
 
         of_velto, of_floor = cost_a_second([[velto.pid], [floor.pid]], 10)
 

@@ -67,6 +67,7 @@ class ABusyDisk(unittest.TestCase):
     def test_the_last_write_is_waited_for_also_when_the_x_server_goes(self):
         velto = self.start(sync_ms=1000)
         velto.item.choose("Auto-Transition")
+        wait_for(lambda: velto.item.menu().find("Auto-Transition").checked, what="the choice")
 
         self.desktop.x_server.kill()
 

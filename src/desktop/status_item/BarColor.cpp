@@ -21,7 +21,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr std::array settlingTimes{300ms, 2500ms};
-constexpr auto goodFor = 5s;
+constexpr auto goodFor = 60s;
 
 bool mayChangeABar(xcb_atom_t property)
 {
