@@ -83,8 +83,9 @@ QImage wideStatusPicture(const QString& text, const QFont& font, int height, con
     // As high as digits of a line of text that takes two thirds of the bar.
     const int digitHeight = height / 2 - height / 2 % 2;
     const int margin = height / 16;
+    const int top = (height - digitHeight) / 2;
     auto image = transparentImage(glyphs.crispWidth(text, digitHeight) + 2 * margin, height);
-    paint(image, glyphs.crispOutline(text, digitHeight).translated(margin, (height - digitHeight) / 2), ink);
+    paint(image, glyphs.crispOutline(text, digitHeight).translated(margin, top), ink);
     return image;
 }
 
