@@ -4,23 +4,12 @@
 #include "desktop/bus/SessionBus.h"
 
 #include <QApplication>
-#include <QDBusMessage>
-#include <QDBusMetaType>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QScopedValueRollback>
-#include <QStringList>
 #include <QWidget>
 
 namespace velto {
 
 namespace {
-
-using SettingGroups = QMap<QString, QVariantMap>;
-
-constexpr auto service = "org.freedesktop.portal.Desktop";
-constexpr auto path = "/org/freedesktop/portal/desktop";
-constexpr auto interface = "org.freedesktop.portal.Settings";
 
 constexpr auto appearanceGroup = "org.freedesktop.appearance";
 constexpr auto interfaceGroup = "org.gnome.desktop.interface";
@@ -28,7 +17,9 @@ constexpr auto accessibilityGroup = "org.gnome.desktop.a11y.interface";
 
 } // namespace
 
-Appearance::Appearance() : m_desktopPalette(QApplication::palette())
+Appearance::Appearance() :
+    m_desktopPalette(QApplication::palette()),
+    m_portal({appearanceGroup, interfaceGroup, accessibilityGroup})
 {
     // Views draw themselves; the rest, such as lists and scroll bars, shall look the same everywhere.
     QApplication::setStyle(QStringLiteral("Fusion"));
@@ -38,19 +29,20 @@ Appearance::Appearance() : m_desktopPalette(QApplication::palette())
 
 Appearance::Appearance(SessionBus& bus) : Appearance()
 {
-    askPortal(bus.connection());
-    connect(&bus, &SessionBus::found, this, [this, &bus] { askPortal(bus.connection()); });
+    connect(&m_portal, &SettingsPortal::changed, this, &Appearance::apply);
+    m_portal.ask(bus.connection());
+    connect(&bus, &SessionBus::found, this, [this, &bus] { m_portal.ask(bus.connection()); });
 }
 
 Theme Appearance::theme() const
 {
     enum : unsigned { noPreference, prefersDark };
-    const auto scheme = setting(appearanceGroup, "color-scheme").toUInt();
+    const auto scheme = m_portal.setting(appearanceGroup, "color-scheme").toUInt();
     const auto desktopTheme = themeOf(m_desktopPalette);
     const bool isDark = scheme == noPreference ? desktopTheme == Theme::dark || desktopTheme == Theme::darkHighContrast
                                                : scheme == prefersDark;
-    const bool isHighContrast
-        = setting(appearanceGroup, "contrast").toUInt() == 1 || setting(accessibilityGroup, "high-contrast").toBool();
+    const bool isHighContrast = m_portal.setting(appearanceGroup, "contrast").toUInt() == 1
+        || m_portal.setting(accessibilityGroup, "high-contrast").toBool();
     if (isHighContrast)
         return isDark ? Theme::darkHighContrast : Theme::lightHighContrast;
     return isDark ? Theme::dark : Theme::light;
@@ -58,8 +50,9 @@ Theme Appearance::theme() const
 
 bool Appearance::reducesMotion() const
 {
-    const auto animations = setting(interfaceGroup, "enable-animations");
-    return setting(appearanceGroup, "reduced-motion").toUInt() == 1 || (animations.isValid() && !animations.toBool());
+    const auto animations = m_portal.setting(interfaceGroup, "enable-animations");
+    return m_portal.setting(appearanceGroup, "reduced-motion").toUInt() == 1
+        || (animations.isValid() && !animations.toBool());
 }
 
 bool Appearance::eventFilter(QObject* watched, QEvent* event)
@@ -80,44 +73,6 @@ bool Appearance::eventFilter(QObject* watched, QEvent* event)
                 QApplication::sendEvent(widget, event);
     }
     return QObject::eventFilter(watched, event);
-}
-
-void Appearance::askPortal(QDBusConnection bus)
-{
-    if (!bus.isConnected())
-        return;
-    qDBusRegisterMetaType<SettingGroups>();
-    // A slot that takes one is found only once the type is known.
-    qRegisterMetaType<QDBusVariant>();
-    // From any sender: naming one would ask the bus for its owner and wait.
-    bus.connect({}, path, interface, QStringLiteral("SettingChanged"), this,
-        SLOT(settingChanged(QString, QString, QDBusVariant)));
-
-    auto question = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("ReadAll"));
-    question << QStringList{appearanceGroup, interfaceGroup, accessibilityGroup};
-    auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        answer->deleteLater();
-        const QDBusPendingReply<SettingGroups> reply = *answer;
-        if (reply.isError())
-            return;
-        const auto groups = reply.value();
-        for (auto group = groups.begin(); group != groups.end(); ++group)
-            m_settings[group.key()] = group.value();
-        apply();
-    });
-}
-
-void Appearance::settingChanged(const QString& group, const QString& key, const QDBusVariant& value)
-{
-    m_settings[group][key] = value.variant();
-    apply();
-}
-
-QVariant Appearance::setting(const char* group, const char* key) const
-{
-    const auto found = m_settings.find(QLatin1String(group));
-    return found == m_settings.end() ? QVariant() : found->second.value(QLatin1String(key));
 }
 
 void Appearance::apply()

@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/bus/SettingsPortal.h"
 #include "style/Colors.h"
 
-#include <QDBusConnection>
-#include <QDBusVariant>
 #include <QObject>
 #include <QPalette>
-#include <QVariantMap>
-
-#include <map>
 
 namespace velto {
 
@@ -35,17 +31,12 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-private slots:
-    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
-
 private:
-    void askPortal(QDBusConnection bus);
-    [[nodiscard]] QVariant setting(const char* group, const char* key) const;
     void apply();
 
     QPalette m_desktopPalette;
     bool m_isApplying = false;
-    std::map<QString, QVariantMap> m_settings;
+    SettingsPortal m_portal;
 };
 
 } // namespace velto

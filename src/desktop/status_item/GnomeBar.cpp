@@ -4,10 +4,6 @@
 #include "desktop/x11/Pixels.h"
 #include "desktop/x11/X11Desktop.h"
 
-#include <QDBusMessage>
-#include <QDBusMetaType>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QLocale>
@@ -15,16 +11,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace velto {
 
 namespace {
 
-using SettingGroups = QMap<QString, QVariantMap>;
-
-constexpr auto service = "org.freedesktop.portal.Desktop";
-constexpr auto path = "/org/freedesktop/portal/desktop";
-constexpr auto interface = "org.freedesktop.portal.Settings";
 constexpr auto group = "org.gnome.desktop.interface";
 
 // In points, at the shell's usual text size.
@@ -61,25 +53,11 @@ QString widest(const QFontMetricsF& metrics, int count, NameOf nameOf)
 
 } // namespace
 
-GnomeBar::GnomeBar(QDBusConnection bus)
+GnomeBar::GnomeBar(QDBusConnection bus) : m_portal({group})
 {
-    if (!area() || !bus.isConnected())
-        return;
-    qDBusRegisterMetaType<SettingGroups>();
-    qRegisterMetaType<QDBusVariant>();
-    bus.connect({}, path, interface, QStringLiteral("SettingChanged"), this,
-        SLOT(settingChanged(QString, QString, QDBusVariant)));
-    auto question = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("ReadAll"));
-    question << QStringList{group};
-    auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        answer->deleteLater();
-        const QDBusPendingReply<SettingGroups> reply = *answer;
-        if (reply.isError())
-            return;
-        m_settings = reply.value().value(group);
-        emit changed();
-    });
+    connect(&m_portal, &SettingsPortal::changed, this, &GnomeBar::changed);
+    if (area())
+        m_portal.ask(std::move(bus));
 }
 
 std::optional<QRect> GnomeBar::placeFor(int width) const
@@ -99,14 +77,6 @@ QFont GnomeBar::font()
     font.setPointSizeF(points);
     font.setBold(true);
     return font;
-}
-
-void GnomeBar::settingChanged(const QString& changedGroup, const QString& key, const QDBusVariant& value)
-{
-    if (changedGroup != QLatin1String(group))
-        return;
-    m_settings[key] = value.variant();
-    emit changed();
 }
 
 std::optional<QRect> GnomeBar::area()
@@ -135,14 +105,15 @@ double GnomeBar::clockWidth() const
     text += QStringLiteral("00:00");
     if (shows("clock-show-seconds"))
         text += QStringLiteral(":00");
-    if (m_settings.value(QStringLiteral("clock-format")).toString() != QLatin1String("24h"))
+    if (m_portal.setting(group, "clock-format").toString() != QLatin1String("24h"))
         text += u' ' + std::max(locale.amText(), locale.pmText());
     return metrics.horizontalAdvance(text);
 }
 
 bool GnomeBar::shows(const char* key) const
 {
-    return m_settings.value(QLatin1String(key), true).toBool();
+    const auto setting = m_portal.setting(group, key);
+    return !setting.isValid() || setting.toBool();
 }
 
 } // namespace velto

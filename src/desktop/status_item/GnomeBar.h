@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/bus/SettingsPortal.h"
+
 #include <QDBusConnection>
-#include <QDBusVariant>
 #include <QFont>
 #include <QObject>
 #include <QRect>
-#include <QVariantMap>
 
 #include <optional>
 
@@ -32,15 +32,12 @@ public:
 signals:
     void changed();
 
-private slots:
-    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
-
 private:
     [[nodiscard]] static std::optional<QRect> area();
     [[nodiscard]] double clockWidth() const;
     [[nodiscard]] bool shows(const char* key) const;
 
-    QVariantMap m_settings; ///< Of the desktop's interface; empty while they are not known.
+    SettingsPortal m_portal;
 };
 
 } // namespace velto
