@@ -62,7 +62,7 @@ wait
             file.write(self.session.run_bytes("cat", "/tmp/picture.png"))
 
     def windows(self):
-        return [Window(title, tuple(rectangle), focused) for title, rectangle, focused in self._evaluate("""
+        return [Window(title or "", tuple(rectangle), focused) for title, rectangle, focused in self._evaluate("""
             global.get_window_actors().filter(actor => actor.visible).map(actor => {
                 const window = actor.meta_window, r = window.get_frame_rect();
                 return [window.title, [r.x, r.y, r.width, r.height], window.has_focus()];
