@@ -23,8 +23,6 @@ protected:
 
 private:
     void placeCard();
-    void drawCard();
-    void cutCard();
 
     QComboBox& m_picker;
     QWidget* m_card = nullptr; ///< The window that the picker shows the list in.

@@ -52,7 +52,7 @@ public:
 
     QPixmap pixmap(const QSize& pixels, QIcon::Mode mode, QIcon::State) override
     {
-        auto color = m_color;
+        auto color = mode == QIcon::Selected ? QColor(Qt::white) : m_color;
         if (mode == QIcon::Disabled)
             color.setAlphaF(static_cast<float>(color.alphaF() * disabledOpacity));
         return render(m_name, pixels, color);

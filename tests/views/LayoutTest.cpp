@@ -5,6 +5,7 @@
 #include "help_about/AboutView.h"
 #include "help_about/HelpView.h"
 #include "style/Button.h"
+#include "style/CardMenu.h"
 #include "style/Colors.h"
 #include "support/FakeCalendar.h"
 #include "support/FakeWorkspace.h"
@@ -202,6 +203,26 @@ TEST_F(LayoutTest, TheListsOfTheFormHoldTheirText)
                 EXPECT_TRUE(shown.contains(picker->itemText(i))) << picker->itemText(i).toStdString();
             picker->hidePopup();
         }
+    });
+}
+
+TEST_F(LayoutTest, AMenuHoldsItsText)
+{
+    everywhere([] {
+        CardMenu menu(false);
+        const QStringList titles{"Start Focus", "Auto-Transition", "90m focus / 15m break", "Edit Custom URL…"};
+        for (const auto& title : titles)
+            menu.addAction(title);
+        auto* separator = menu.addSeparator();
+        menu.addMenu(menu.makeSubmenu())->setText("Focus Duration");
+        show(menu);
+
+        expectRoomForText(menu);
+        QString shown;
+        for (const auto& text : drawnTexts(menu))
+            shown += text.text;
+        EXPECT_EQ(shown, titles.join("") + "Focus Duration");
+        EXPECT_GT(menu.actionGeometry(separator).height(), 4);
     });
 }
 

@@ -8,12 +8,14 @@
 #include "settings/AppSettings.h"
 #include "settings_form/SettingsSheet.h"
 #include "style/Button.h"
+#include "style/CardMenu.h"
 #include "style/Colors.h"
 #include "style/Motion.h"
 #include "style/PopUpPicker.h"
 #include "style/Slider.h"
 #include "style/Stack.h"
 #include "style/SymbolView.h"
+#include "style/Symbols.h"
 #include "style/TextField.h"
 #include "style/TextLabel.h"
 #include "style/ToggleSwitch.h"
@@ -85,6 +87,7 @@ public:
         card("endless", 123456789, 987654321, {});
         controls();
         windows();
+        menu();
     }
 
 private:
@@ -199,6 +202,37 @@ private:
         save(about, "about");
     }
 
+    void menu()
+    {
+        CardMenu menu(false);
+        const auto symbol
+            = [&menu](const char* name) { return symbolIcon(name, menu.palette().color(QPalette::Text)); };
+        menu.addAction("Start Focus");
+        menu.addAction("Reset Focus")->setEnabled(false);
+        menu.addSeparator();
+        auto* submenu = menu.makeSubmenu();
+        submenu->setTitle("Focus Duration");
+        menu.addMenu(submenu);
+        for (const auto* title : {"15 minutes", "25 minutes", "90 minutes"}) {
+            auto* action = submenu->addAction(title);
+            action->setCheckable(true);
+            action->setChecked(title == QStringLiteral("25 minutes"));
+        }
+        auto* automatic = menu.addAction("Auto-Transition");
+        automatic->setCheckable(true);
+        automatic->setChecked(true);
+        menu.addSeparator();
+        menu.addAction(symbol("gearshape"), "Settings…");
+        menu.addAction(symbol("questionmark.circle"), "How to Use");
+        menu.addSeparator();
+        menu.addAction("Quit");
+        menu.popup({});
+        menu.setActiveAction(submenu->menuAction());
+        save(menu, "menu");
+        submenu->popup({});
+        save(*submenu, "submenu");
+    }
+
     void save(QWidget& view, const QString& name)
     {
         for (const auto theme : {Theme::light, Theme::dark, Theme::lightHighContrast, Theme::darkHighContrast}) {
@@ -212,7 +246,8 @@ private:
             QPainter painter(&image);
             view.render(&painter, {24, 24}, {},
                 QWidget::DrawChildren
-                    | ((view.inherits("velto::PanelContainerView") || view.inherits("velto::SettingsSheet"))
+                    | ((view.inherits("velto::PanelContainerView") || view.inherits("velto::SettingsSheet")
+                           || view.inherits("velto::CardMenu"))
                             ? QWidget::RenderFlags()
                             : QWidget::DrawWindowBackground));
             painter.end();

@@ -5,10 +5,10 @@
 #include "desktop/menus/MenuText.h"
 #include "desktop/x11/Pixels.h"
 #include "desktop/x11/X11Desktop.h"
+#include "style/CardMenu.h"
 #include "style/Symbols.h"
 
 #include <QAction>
-#include <QMenu>
 #include <QScreen>
 
 #include <algorithm>
@@ -81,19 +81,20 @@ void PopUpMenu::show()
     m_awaitRelease.stop();
     if (m_menu->willOpen)
         m_menu->willOpen();
-    m_shown = std::make_unique<QMenu>();
+    const bool isCut = x11::connection() && !x11::hasCompositingManager();
+    m_shown = std::make_unique<CardMenu>(isCut);
     fill(*m_shown, *m_menu);
     connect(m_shown.get(), &QMenu::aboutToHide, this, &PopUpMenu::dismiss);
     m_handlers.opened();
     m_shown->popup(placeMenu(m_shown->sizeHint(), m_anchor));
 }
 
-void PopUpMenu::fill(QMenu& shown, const Menu& menu)
+void PopUpMenu::fill(CardMenu& shown, const Menu& menu)
 {
     for (const auto& item : menu.items) {
         QAction* action = nullptr;
         if (item->submenu) {
-            auto* submenu = new QMenu(&shown);
+            auto* submenu = shown.makeSubmenu();
             fill(*submenu, *item->submenu);
             action = shown.addMenu(submenu);
         } else {

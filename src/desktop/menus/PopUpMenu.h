@@ -12,9 +12,10 @@
 #include <vector>
 
 class QAction;
-class QMenu;
 
 namespace velto {
+
+class CardMenu;
 
 /// A menu drawn by the program itself.
 ///
@@ -49,14 +50,14 @@ private:
     };
 
     void show();
-    void fill(QMenu& shown, const Menu& menu);
+    void fill(CardMenu& shown, const Menu& menu);
     void refresh();
     void chosen(const std::shared_ptr<MenuItem>& item);
     void dismiss();
 
     Handlers m_handlers;
     std::shared_ptr<Menu> m_menu;
-    std::unique_ptr<QMenu> m_shown;
+    std::unique_ptr<CardMenu> m_shown;
     std::vector<Entry> m_entries;
     QRect m_anchor;
     QTimer m_refresh;
