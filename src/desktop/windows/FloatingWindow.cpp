@@ -29,6 +29,8 @@ QWidget& created(QWidget& window)
     // Counts when the window's flags change next.
     constexpr int utility = 0x20;
     window.windowHandle()->setProperty("_q_xcb_wm_window_type", utility);
+    // Qt closes the menus that are open when a window comes, unless it takes that window for a tool.
+    window.overrideWindowFlags((window.windowFlags() & ~Qt::WindowType_Mask) | Qt::Tool);
     return window;
 }
 

@@ -14,6 +14,7 @@
 #include <QAbstractNativeEventFilter>
 #include <QApplication>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
@@ -432,6 +433,17 @@ TEST(TakingPanelTest, ShownByItselfItAcceptsNoKeyboardBeforeItIsUsed)
         panel.orderOut();
         EXPECT_TRUE(eventually([&] { return other->hasKeyboard(); })) << round;
     }
+}
+
+TEST_F(QtPanelWindowTest, AMenuThatIsOpenStaysWhenItComes)
+{
+    QMenu menu;
+    menu.addAction(QStringLiteral("Quit"));
+    menu.popup({100, 100});
+
+    show();
+
+    EXPECT_TRUE(stays([&] { return menu.isVisible(); }));
 }
 
 TEST_F(QtPanelWindowTest, ItIsAUtilityThatStandsOnNoOtherWindow)
