@@ -95,7 +95,11 @@ panel-right-stick=true
 def _windows(desktop, wm_class):
     """(x, y, width, height) of every window of that class on the screen."""
     pattern = re.compile(rf'(0x\w+) .*\("{re.escape(wm_class)}" .*\)  (\d+)x(\d+)\+-?\d+\+-?\d+  \+(-?\d+)\+(-?\d+)')
-    for match in pattern.finditer(desktop.ask("xwininfo", "-root", "-tree")):
+    try:
+        tree = desktop.ask("xwininfo", "-root", "-tree")
+    except subprocess.CalledProcessError:
+        return  # a window has gone meanwhile
+    for match in pattern.finditer(tree):
         width, height, x, y = map(int, match.groups()[1:])
         try:
             if width > 16 and height > 16 and "IsViewable" in desktop.ask("xwininfo", "-id", match[1]):

@@ -47,9 +47,6 @@ QPoint placeMenu(const QSize& size, const QRect& anchor)
 PopUpMenu::PopUpMenu(Handlers handlers) : m_handlers(std::move(handlers))
 {
     AccessibleApplication::install();
-    m_refresh.setSingleShot(true);
-    m_refresh.setInterval(0);
-    connect(&m_refresh, &QTimer::timeout, this, &PopUpMenu::refresh);
     m_awaitRelease.setInterval(10ms);
     connect(&m_awaitRelease, &QTimer::timeout, this, [this] {
         if (!x11::mouseIsPressed())
@@ -61,8 +58,8 @@ PopUpMenu::~PopUpMenu() = default;
 
 void PopUpMenu::menuDidChange()
 {
-    if (isOpen())
-        m_refresh.start();
+    for (const auto& entry : m_entries)
+        apply(*entry.action, *entry.item);
 }
 
 void PopUpMenu::popUp(const QRect& anchor)
@@ -100,7 +97,9 @@ void PopUpMenu::fill(CardMenu& shown, const Menu& menu)
         } else {
             action = shown.addAction(QString());
             action->setSeparator(item->isSeparator);
-            connect(action, &QAction::triggered, this, [this, item] { chosen(item); });
+            // Later: the menu is still on its way out.
+            connect(
+                action, &QAction::triggered, this, [this, item] { chosen(*item); }, Qt::QueuedConnection);
         }
         if (item->symbol)
             action->setIcon(
@@ -110,29 +109,19 @@ void PopUpMenu::fill(CardMenu& shown, const Menu& menu)
     }
 }
 
-void PopUpMenu::refresh()
-{
-    for (const auto& entry : m_entries)
-        apply(*entry.action, *entry.item);
-}
-
-void PopUpMenu::chosen(const std::shared_ptr<MenuItem>& item)
+void PopUpMenu::chosen(const MenuItem& item)
 {
     // Chosen by assistive technology, it is still open.
     if (m_shown)
         m_shown->close();
-    // Later: the menu is still on its way out.
-    QTimer::singleShot(0, this, [item] {
-        if (item->action)
-            item->action(*item);
-    });
+    if (item.action)
+        item.action(item);
 }
 
 void PopUpMenu::dismiss()
 {
     if (!m_shown)
         return;
-    m_refresh.stop();
     m_entries.clear();
     m_shown.release()->deleteLater();
     m_handlers.closed();

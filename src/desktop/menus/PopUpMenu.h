@@ -34,7 +34,7 @@ public:
     ~PopUpMenu() override;
 
     void setMenu(std::shared_ptr<Menu> menu) { m_menu = std::move(menu); }
-    /// Values in the menu may have changed; an open menu follows in the next turn.
+    /// Values in the menu may have changed; an open menu follows.
     void menuDidChange();
 
     /// Opens the menu, or does nothing while it is open: below `anchor`, above it where the screen ends.
@@ -51,8 +51,7 @@ private:
 
     void show();
     void fill(CardMenu& shown, const Menu& menu);
-    void refresh();
-    void chosen(const std::shared_ptr<MenuItem>& item);
+    void chosen(const MenuItem& item);
     void dismiss();
 
     Handlers m_handlers;
@@ -60,7 +59,6 @@ private:
     std::unique_ptr<CardMenu> m_shown;
     std::vector<Entry> m_entries;
     QRect m_anchor;
-    QTimer m_refresh;
     QTimer m_awaitRelease;
 };
 
