@@ -8,6 +8,7 @@
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QGuiApplication>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -103,10 +104,7 @@ QString noEntry(int id)
 DBusMenu::DBusMenu(QDBusConnection bus, Handlers handlers) : m_bus(std::move(bus)), m_handlers(std::move(handlers))
 {
     registerDBusMenuTypes();
-    m_refresh.setSingleShot(true);
-    m_refresh.setInterval(0);
-    connect(&m_refresh, &QTimer::timeout, this, &DBusMenu::refresh);
-    refresh();
+    menuDidChange();
     m_bus.registerObject(statusMenuPath, this, QDBusConnection::ExportScriptableContents);
 }
 
@@ -127,19 +125,13 @@ void DBusMenu::setLeadingItem(std::shared_ptr<MenuItem> item)
     menuDidChange();
 }
 
-void DBusMenu::menuDidChange()
-{
-    m_refresh.start();
-}
-
 QString DBusMenu::textDirection() const
 {
     return QGuiApplication::isRightToLeft() ? QStringLiteral("rtl") : QStringLiteral("ltr");
 }
 
-void DBusMenu::refresh()
+void DBusMenu::menuDidChange()
 {
-    m_refresh.stop();
     Nodes nodes;
     auto& root = nodes[0];
     root.properties = {{QStringLiteral("children-display"), QStringLiteral("submenu")}};
@@ -219,11 +211,8 @@ DBusMenuLayout DBusMenu::layoutOf(int id, int depth, const QStringList& property
 void DBusMenu::answer(std::function<QDBusMessage(const QDBusMessage&)> reply)
 {
     setDelayedReply(true);
-    const bool isTaken = m_answers.run([this, question = message(), reply = std::move(reply)] {
-        if (m_refresh.isActive())
-            refresh();
-        m_bus.send(reply(question));
-    });
+    const bool isTaken
+        = m_answers.run([this, question = message(), reply = std::move(reply)] { m_bus.send(reply(question)); });
     refuse(!isTaken);
 }
 
@@ -264,8 +253,6 @@ QDBusVariant DBusMenu::GetProperty(int id, const QString& name)
 {
     if (refuse(isTooMuch(name)))
         return {};
-    if (m_refresh.isActive())
-        refresh();
     const auto node = m_nodes.find(id);
     if (node == m_nodes.end()) {
         refuseUnknown(id);
@@ -334,12 +321,12 @@ bool DBusMenu::handleEvent(int id, const QString& name)
         else if (name == QLatin1String("closed"))
             m_handlers.closed();
     } else if (name == QLatin1String("clicked")) {
-        m_handlers.closed();
         // Later: the host waits for the reply, and the action may take a while.
         QTimer::singleShot(0, this, [item = node->second.item] {
             if (item->action && item->isEnabled && !item->isHidden)
                 item->action(*item);
         });
+        m_handlers.closed();
     }
     return true;
 }
@@ -352,7 +339,7 @@ bool DBusMenu::handleAboutToShow(int id)
         if (m_menu->willOpen)
             m_menu->willOpen();
     }
-    refresh();
+    menuDidChange();
     return m_revision != revision;
 }
 

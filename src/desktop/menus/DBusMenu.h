@@ -8,7 +8,6 @@
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QObject>
-#include <QTimer>
 
 #include <functional>
 #include <map>
@@ -46,7 +45,7 @@ public:
     void setMenu(std::shared_ptr<Menu> menu);
     /// One more entry above those of the menu; null for none.
     void setLeadingItem(std::shared_ptr<MenuItem> item);
-    /// Values in the menu may have changed; hosts hear of it in the next turn.
+    /// Values in the menu may have changed; hosts hear of those that have.
     void menuDidChange();
 
     // Calls with lists of more than 1,000 items or texts of more than 256 characters are answered with LimitsExceeded.
@@ -78,7 +77,6 @@ private:
     [[nodiscard]] QString status() const { return QStringLiteral("normal"); }
     [[nodiscard]] QStringList iconThemePath() const { return {}; }
 
-    void refresh();
     QList<int> addNodes(Nodes& nodes, const std::vector<std::shared_ptr<MenuItem>>& items);
     [[nodiscard]] int idOf(const std::shared_ptr<MenuItem>& item);
     void announce(const Nodes& before);
@@ -95,7 +93,6 @@ private:
     Handlers m_handlers;
     std::shared_ptr<Menu> m_menu = std::make_shared<Menu>();
     std::shared_ptr<MenuItem> m_leadingItem;
-    QTimer m_refresh;
     Throttle m_answers;
     Nodes m_nodes;
     std::map<std::shared_ptr<MenuItem>, int> m_ids;
