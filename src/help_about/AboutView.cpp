@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "help_about/AboutView.h"
 
-#include "help_about/AboutButton.h"
 #include "help_about/AboutTexts.h"
 #include "help_about/ApplicationIcon.h"
 #include "platform/Calendar.h"
 #include "platform/RunLoop.h"
 #include "platform/Workspace.h"
+#include "style/Button.h"
 #include "style/Paragraph.h"
 #include "style/Stack.h"
 #include "style/TextLabel.h"
@@ -40,9 +40,9 @@ AboutView::AboutView(QSize size, AboutDetails details, const Bundle& bundle, con
     auto* icon = new ApplicationIcon(120, 16);
     auto* description = new Paragraph("A focus timer companion built to keep sessions simple and distraction-free.",
         TextStyle::body, ColorName::secondaryLabel, Qt::AlignHCenter);
-    auto* support = aboutButton("Support", m_details.supportLink);
-    auto* website = aboutButton("Website", m_details.websiteLink);
-    auto* coffee = aboutButton("Buy Me a Coffee", m_details.donationLink);
+    auto* support = link("Support", m_details.supportLink);
+    auto* website = link("Website", m_details.websiteLink);
+    auto* coffee = link("Buy Me a Coffee", m_details.donationLink);
 
     auto* links = row({.spacing = 16}, support, website, coffee);
     auto* words = column({.spacing = 10}, m_title, filling(description), links, spacer);
@@ -81,10 +81,10 @@ void AboutView::refresh()
     m_rights->setText(QString::fromStdString(rightsLine(m_calendar.currentYear(), m_details.rightsHolder)));
 }
 
-QWidget* AboutView::aboutButton(const QString& title, const std::string& url)
+QWidget* AboutView::link(const QString& title, const std::string& url)
 {
-    auto* button = new AboutButton(title);
-    connect(button, &AboutButton::clicked, this, [this, url] { m_workspace.open(url); });
+    auto* button = new Button(ButtonKind::link, title);
+    connect(button, &Button::clicked, this, [this, url] { m_workspace.open(url); });
     return button;
 }
 

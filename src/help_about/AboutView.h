@@ -45,7 +45,7 @@ protected:
 
 private:
     void refresh();
-    [[nodiscard]] QWidget* aboutButton(const QString& title, const std::string& url);
+    [[nodiscard]] QWidget* link(const QString& title, const std::string& url);
 
     QSize m_size;
     AboutDetails m_details;

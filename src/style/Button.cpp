@@ -15,14 +15,20 @@ namespace velto {
 
 namespace {
 
-constexpr double cornerRadius = 8;
 constexpr double symbolGap = 6;
+constexpr double pressedLinkOpacity = 0.8;
+constexpr double pressedLinkScale = 0.98;
 
 QFont titleFont()
 {
     auto font = textFont(TextStyle::body);
     font.setWeight(QFont::Medium);
     return font;
+}
+
+QFont linkFont()
+{
+    return textFont(TextStyle::headline);
 }
 
 } // namespace
@@ -33,43 +39,60 @@ Button::Button(ButtonKind kind, const QString& title, const QString& symbol, Col
     m_symbol(symbol),
     m_tint(tint)
 {
-    followFont(*this, titleFont);
+    followFont(*this, kind == ButtonKind::link ? linkFont : titleFont);
     setAttribute(Qt::WA_Hover);
+    if (kind == ButtonKind::link)
+        setCursor(Qt::PointingHandCursor);
 }
 
 QSize Button::sizeHint() const
 {
-    if (m_kind == ButtonKind::borderless) {
-        const int side = controlHeight(*this);
-        return {std::max(side, static_cast<int>(std::ceil(contentWidth())) + 8), side};
+    const int width = static_cast<int>(std::ceil(contentWidth()));
+    const int height = controlHeight(*this);
+    switch (m_kind) {
+    case ButtonKind::link:
+        return {width + 44, height + 4};
+    case ButtonKind::borderless:
+        return {std::max(height, width + 8), height};
+    default:
+        return {width + 32, height + 2};
     }
-    return {static_cast<int>(std::ceil(contentWidth())) + 32, controlHeight(*this) + 2};
 }
 
 void Button::paintEvent(QPaintEvent*)
 {
+    const bool isLink = m_kind == ButtonKind::link;
+    const bool isOnTint = isLink || m_kind == ButtonKind::prominent;
+    const double radius = isLink ? 12 : 8;
     const auto label = color(ColorName::label, *this);
-    auto face = color(m_kind == ButtonKind::prominent ? m_tint : ColorName::control, *this);
+    auto face = color(isOnTint ? m_tint : ColorName::control, *this);
     auto content = label;
-    if (m_kind == ButtonKind::prominent)
+    if (isOnTint)
         content = m_tint == ColorName::accent ? QColor(Qt::white) : color(ColorName::tintedLabel, *this);
     else if (m_kind == ButtonKind::destructive)
         content = color(ColorName::red, *this);
     else if (m_kind == ButtonKind::borderless && isEnabled())
         content = color(m_tint, *this);
-    const double emphasis = isDown() ? 0.12 : underMouse() && isEnabled() ? 0.05 : 0;
+    const double emphasis = isLink ? 0 : isDown() ? 0.12 : underMouse() && isEnabled() ? 0.05 : 0;
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     if (!isEnabled())
         painter.setOpacity(disabledOpacity);
+    if (isLink && isDown()) {
+        const QPointF center = QRectF(rect()).center();
+        painter.translate(center);
+        painter.scale(pressedLinkScale, pressedLinkScale);
+        painter.translate(-center);
+        face.setAlphaF(pressedLinkOpacity);
+    }
     if (m_kind == ButtonKind::borderless) {
         content = mixed(content, label, emphasis * 2);
     } else {
         // Away from the text on it, so that pressing never costs contrast.
         const auto away = content.lightness() < 128 ? Qt::white : Qt::black;
-        face = mixed(face, m_kind == ButtonKind::prominent ? QColor(away) : label, emphasis);
-        drawBezel(painter, rect(), cornerRadius, face, isHighContrast(palette()) ? label : QColor());
+        face = mixed(face, isOnTint ? QColor(away) : label, emphasis);
+        drawBezel(painter, rect(), radius, face, isHighContrast(palette()) ? label : QColor());
     }
 
     const double size = m_symbol.isEmpty() ? 0 : symbolSize();
@@ -83,9 +106,8 @@ void Button::paintEvent(QPaintEvent*)
     drawLine(painter, QRectF(x, 0, width() - x, height()), Qt::AlignLeft, text());
 
     if (showsFocus(*this)) {
-        const bool isOnTint = m_kind == ButtonKind::prominent;
         const auto inset = isOnTint ? 2 : 0;
-        drawFocusRing(painter, QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius - inset,
+        drawFocusRing(painter, QRectF(rect()).adjusted(inset, inset, -inset, -inset), radius - inset,
             isOnTint ? content : color(ColorName::accent, *this));
     }
 }

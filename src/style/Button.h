@@ -11,7 +11,8 @@ enum class ButtonKind {
     prominent,   ///< A face in the tint: what to press next.
     bordered,    ///< A quiet face.
     destructive, ///< A quiet face with a warning's text.
-    borderless   ///< No face, for symbols beside something else.
+    borderless,  ///< No face, for symbols beside something else.
+    link         ///< A face in the tint that dims and shrinks under the press: leads out of the program.
 };
 
 /// A title with a symbol before it, either of which may be empty. Looks the same whether its window

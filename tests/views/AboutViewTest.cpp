@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "help_about/AboutView.h"
 
-#include "help_about/AboutButton.h"
 #include "help_about/ApplicationIcon.h"
+#include "style/Button.h"
 #include "style/Colors.h"
 #include "support/FakeBundle.h"
 #include "support/FakeCalendar.h"
@@ -33,7 +33,7 @@ protected:
         view.resize(640, 240);
         view.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
-        buttons = view.findChildren<AboutButton*>();
+        buttons = view.findChildren<Button*>();
     }
 
     QStringList texts() const
@@ -51,7 +51,7 @@ protected:
     FakeRunLoop runLoop;
     AboutView view{QSize(640, 240), {"Somebody", "mailto:a@b.example", "https://b.example", "https://b.example/coffee"},
         bundle, calendar, workspace, runLoop};
-    QList<AboutButton*> buttons;
+    QList<Button*> buttons;
 };
 
 TEST_F(AboutViewTest, SaysWhatTheProgramIs)
@@ -163,7 +163,7 @@ struct Face {
     QColor color;
 };
 
-Face faceOf(AboutButton& button)
+Face faceOf(Button& button)
 {
     const auto picture = button.grab().toImage();
     const int y = picture.height() / 2;
