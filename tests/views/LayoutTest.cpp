@@ -28,7 +28,7 @@ std::string written(const QRectF& rect)
 }
 
 /// The views in every scheme and every size of the desktop's text.
-class LayoutTest : public testing::Test {
+class LayoutTest : public testing::Test, protected World {
 protected:
     ~LayoutTest() override
     {
@@ -93,12 +93,7 @@ protected:
             EXPECT_TRUE(everything.contains(text.remove(u' ').remove(u'\n'))) << text.toStdString() << " is not whole";
     }
 
-    FakeKeyValueStore store;
-    FakeSoundLibrary sounds;
-    FakeStreamPlayerFactory players;
-    FakeRunLoop runLoop;
     FakeBundle bundle;
-    AppSettings settings{store, sounds};
 
 private:
     /// What it should show, by its widgets.
@@ -134,12 +129,12 @@ TEST_F(LayoutTest, TheCardHoldsItsText)
 {
     everywhere([this] {
         for (const std::int64_t minutes : {1, 25, 100, 999}) {
-            PomodoroTimer timer{settings, runLoop, players};
-            timer.updateDurations(minutes, minutes);
-            PanelContainerView view{timer, settings, {360, 420}, runLoop, bundle, {}};
+            m_timer.reset();
+            timer().updateDurations(minutes, minutes);
+            PanelContainerView view{timer(), settings, {360, 420}, runLoop, bundle, {}};
             const QRect inside = QRect(0, 0, 360, 420).adjusted(20, 20, -20, -20);
-            for (const auto& step : std::vector<std::function<void()>>{[] {}, [&] { timer.start(); },
-                     [&] { timer.pause(); }, [&] { timer.switchToPhase(PomodoroPhase::breakTime); }}) {
+            for (const auto& step : std::vector<std::function<void()>>{[] {}, [&] { timer().start(); },
+                     [&] { timer().pause(); }, [&] { timer().switchToPhase(PomodoroPhase::breakTime); }}) {
                 step();
                 runLoop.runTurns();
                 show(view, view.size());
@@ -167,8 +162,7 @@ TEST_F(LayoutTest, TheFormHoldsItsText)
             settings.breakMusicPreset.set(allMusicPresets.at((preset + 1) % allMusicPresets.size()));
             settings.enableFocusMusic.set(preset > 0);
             settings.enableBreakMusic.set(true);
-            PomodoroTimer timer{settings, runLoop, players};
-            SettingsSheet view{settings, timer, runLoop, [] {}};
+            SettingsSheet view{settings, timer(), runLoop, [] {}};
             show(view);
             const auto& page = *view.findChild<QScrollArea*>();
             EXPECT_LE(page.widget()->minimumSizeHint().width(), page.viewport()->width());
@@ -184,8 +178,7 @@ TEST_F(LayoutTest, TheListsOfTheFormHoldTheirText)
 {
     everywhere([this] {
         settings.enableFocusMusic.set(true);
-        PomodoroTimer timer{settings, runLoop, players};
-        SettingsSheet view{settings, timer, runLoop, [] {}};
+        SettingsSheet view{settings, timer(), runLoop, [] {}};
         show(view);
         for (auto* picker : view.findChildren<PopUpPicker*>()) {
             if (!picker->isVisible())

@@ -1,20 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/PomodoroTimer.h"
 #include "panel/CircularProgressView.h"
 #include "panel/PanelContainerView.h"
 #include "panel/PhaseTitle.h"
 #include "panel/RollingTime.h"
-#include "settings/AppSettings.h"
 #include "style/Button.h"
 #include "style/Colors.h"
 #include "style/TextLabel.h"
 #include "support/FakeBundle.h"
-#include "support/FakeKeyValueStore.h"
-#include "support/FakeRunLoop.h"
-#include "support/FakeSoundLibrary.h"
-#include "support/FakeStreamPlayerFactory.h"
+#include "support/World.h"
 
 #include <gtest/gtest.h>
 
@@ -52,15 +47,13 @@ public:
 };
 
 /// The card with everything that it shows, over a timer in virtual time.
-class PanelContainerViewTest : public testing::Test {
+class PanelContainerViewTest : public testing::Test, protected World {
 protected:
     PanelContainerViewTest()
     {
         QApplication::setPalette(paletteFor(Theme::light));
         QApplication::setEffectEnabled(Qt::UI_General, true);
         setDesktopFont(10);
-        store.values["focusMinutes"] = std::int64_t{25};
-        store.values["breakMinutes"] = std::int64_t{5};
     }
 
     ~PanelContainerViewTest() override
@@ -86,12 +79,10 @@ protected:
     void build(std::int64_t focusMinutes = 25, std::int64_t breakMinutes = 5)
     {
         view.reset();
-        timer.reset();
-        store.values["focusMinutes"] = focusMinutes;
-        store.values["breakMinutes"] = breakMinutes;
-        settings = std::make_unique<AppSettings>(store, sounds);
-        timer = std::make_unique<PomodoroTimer>(*settings, runLoop, players);
-        view = std::make_unique<PanelContainerView>(*timer, *settings, Size{360, 420}, runLoop, bundle, makeSheet);
+        m_timer.reset();
+        settings.focusMinutes.set(focusMinutes);
+        settings.breakMinutes.set(breakMinutes);
+        view = std::make_unique<PanelContainerView>(timer(), settings, Size{360, 420}, runLoop, bundle, makeSheet);
         view->show();
         view->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(view.get()));
@@ -161,14 +152,8 @@ protected:
         return image.pixelColor((point * scale).toPoint());
     }
 
-    FakeRunLoop runLoop;
-    FakeKeyValueStore store;
-    FakeSoundLibrary sounds;
-    FakeStreamPlayerFactory players;
     FakeBundle bundle;
     SettingsSheetFactory makeSheet;
-    std::unique_ptr<AppSettings> settings;
-    std::unique_ptr<PomodoroTimer> timer;
     std::unique_ptr<PanelContainerView> view;
 };
 

@@ -9,8 +9,6 @@ namespace velto {
 
 namespace {
 
-using namespace std::chrono_literals;
-
 constexpr auto light = Theme::light;
 
 std::vector<QAccessible::Event> announcements;
@@ -35,7 +33,7 @@ TEST_F(PanelContainerViewTest, FramesAreExact)
 TEST_F(PanelContainerViewTest, TheRowsStandAtTheirDistances)
 {
     build();
-    timer->start();
+    timer().start();
     turn();
     const auto pause = frame(button("Pause"));
     const auto reset = frame(button("Reset"));
@@ -93,8 +91,8 @@ TEST_F(PanelContainerViewTest, BelowAHundredMinutesTheTimeIsLarge)
     EXPECT_EQ(child<RollingTime>().spokenText(), "100:00");
     EXPECT_EQ(child<RollingTime>().fontSize(), 54);
 
-    timer->start();
-    runLoop.advance(1s);
+    timer().start();
+    tick(1);
     EXPECT_EQ(child<RollingTime>().spokenText(), "99:59");
     EXPECT_EQ(child<RollingTime>().fontSize(), 64);
 }
@@ -102,8 +100,8 @@ TEST_F(PanelContainerViewTest, BelowAHundredMinutesTheTimeIsLarge)
 TEST_F(PanelContainerViewTest, AtZeroTheCircleIsFull)
 {
     build(1);
-    timer->start();
-    runLoop.advance(60s);
+    timer().start();
+    tick(60);
     moveTo(Motion::usualDuration);
     const auto image = look();
 
@@ -130,8 +128,8 @@ TEST_F(PanelContainerViewTest, AtTheStartNoArcIsDrawn)
 TEST_F(PanelContainerViewTest, TheArcGrowsClockwiseFromTheTop)
 {
     build(1);
-    timer->start();
-    runLoop.advance(30s);
+    timer().start();
+    tick(30);
     moveTo(Motion::usualDuration);
     const auto image = look();
 
@@ -157,9 +155,9 @@ TEST_F(PanelContainerViewTest, MoreRemainingThanThePhaseIsLongDrawsNoArc)
     build(25);
     auto& ring = child<CircularProgressView>();
     const auto withoutArc = ring.grab().toImage();
-    timer->start();
+    timer().start();
     turn();
-    timer->updateDurationsWithoutReset(20, 5);
+    timer().updateDurationsWithoutReset(20, 5);
     turn();
     moveTo(Motion::usualDuration);
 
@@ -170,7 +168,7 @@ TEST_F(PanelContainerViewTest, MoreRemainingThanThePhaseIsLongDrawsNoArc)
 TEST_F(PanelContainerViewTest, TheDurationsLineFollowsTheTimer)
 {
     build();
-    timer->updateDurations(50, 10);
+    timer().updateDurations(50, 10);
     turn();
 
     EXPECT_TRUE(label("Focus: 50m  \u2022  Break: 10m"));
@@ -179,10 +177,10 @@ TEST_F(PanelContainerViewTest, TheDurationsLineFollowsTheTimer)
 TEST_F(PanelContainerViewTest, ABreakTurnsRingAndTitleToThePrimaryColour)
 {
     build(1, 1);
-    timer->start();
-    runLoop.advance(61s);
-    timer->start();
-    runLoop.advance(30s);
+    timer().start();
+    tick(61);
+    timer().start();
+    tick(30);
     moveTo(Motion::usualDuration);
     const auto image = look();
 
@@ -222,17 +220,17 @@ TEST_F(PanelContainerViewTest, TheControlsTakeTheirThreeForms)
     EXPECT_EQ(buttonTitles(), std::vector<QString>{"Start"});
     EXPECT_EQ(button("Start")->width(), 320 - 2 * 16);
 
-    timer->start();
+    timer().start();
     turn();
     EXPECT_EQ(buttonTitles(), (std::vector<QString>{"Pause", "Reset"}));
 
-    timer->pause();
+    timer().pause();
     turn();
     look();
     EXPECT_EQ(buttonTitles(), (std::vector<QString>{"Start", "Reset"}));
     EXPECT_EQ(button("Start")->width(), button("Reset")->width());
 
-    timer->reset();
+    timer().reset();
     turn();
     EXPECT_EQ(buttonTitles(), std::vector<QString>{"Start"});
 }
@@ -241,17 +239,17 @@ TEST_F(PanelContainerViewTest, ButtonsWorkTheTimer)
 {
     build();
     QTest::mouseClick(button("Start"), Qt::LeftButton);
-    EXPECT_TRUE(timer->isRunning());
+    EXPECT_TRUE(timer().isRunning());
 
-    runLoop.advance(3s);
+    tick(3);
     QTest::mouseClick(button("Pause"), Qt::LeftButton);
-    EXPECT_FALSE(timer->isRunning());
-    EXPECT_EQ(timer->remainingSeconds(), 1497);
+    EXPECT_FALSE(timer().isRunning());
+    EXPECT_EQ(timer().remainingSeconds(), 1497);
 
     turn();
     QTest::mouseClick(button("Reset"), Qt::LeftButton);
-    EXPECT_EQ(timer->remainingSeconds(), 1500);
-    EXPECT_FALSE(timer->hasStarted());
+    EXPECT_EQ(timer().remainingSeconds(), 1500);
+    EXPECT_FALSE(timer().hasStarted());
 }
 
 TEST_F(PanelContainerViewTest, TheKeyboardWorksTheTimerAndKeepsItsPlace)
@@ -262,12 +260,12 @@ TEST_F(PanelContainerViewTest, TheKeyboardWorksTheTimerAndKeepsItsPlace)
 
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     turn();
-    EXPECT_TRUE(timer->isRunning());
+    EXPECT_TRUE(timer().isRunning());
     EXPECT_EQ(QApplication::focusWidget(), button("Pause"));
 
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
     turn();
-    EXPECT_FALSE(timer->isRunning());
+    EXPECT_FALSE(timer().isRunning());
     EXPECT_EQ(QApplication::focusWidget(), button("Start"));
 
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -275,7 +273,7 @@ TEST_F(PanelContainerViewTest, TheKeyboardWorksTheTimerAndKeepsItsPlace)
 
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     turn();
-    EXPECT_FALSE(timer->hasStarted());
+    EXPECT_FALSE(timer().hasStarted());
     EXPECT_EQ(QApplication::focusWidget(), button("Start"));
 }
 
@@ -284,8 +282,8 @@ TEST_F(PanelContainerViewTest, TheKeyboardWorksTheTimerAndKeepsItsPlace)
 TEST_F(PanelContainerViewTest, AssistiveTechnologyReadsWhatIsShown)
 {
     build();
-    timer->start();
-    runLoop.advance(375s);
+    timer().start();
+    tick(375);
     const auto interface = [](QWidget* widget) { return QAccessible::queryAccessibleInterface(widget); };
 
     EXPECT_EQ(interface(&child<RollingTime>())->text(QAccessible::Name), "18:45");
@@ -305,20 +303,20 @@ TEST_F(PanelContainerViewTest, AssistiveTechnologyReadsWhatIsShown)
 TEST_F(PanelContainerViewTest, ThePhaseIsAnnouncedAndTheTicksAreNot)
 {
     build(1, 5);
-    timer->start();
+    timer().start();
     turn();
     accessibility().setActive(true);
     announcements.clear();
     QAccessible::installUpdateHandler([](QAccessibleEvent* event) { announcements.push_back(event->type()); });
 
-    runLoop.advance(60s);
+    tick(60);
     EXPECT_TRUE(announcements.empty());
 
     QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
         if (qobject_cast<PhaseTitle*>(event->object()))
             announcements.push_back(event->type());
     });
-    runLoop.advance(1s);
+    tick(1);
     EXPECT_EQ(announcements, (std::vector<QAccessible::Event>{QAccessible::NameChanged, QAccessible::Alert}));
 }
 

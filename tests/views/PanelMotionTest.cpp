@@ -9,24 +9,22 @@ namespace velto {
 
 namespace {
 
-using namespace std::chrono_literals;
-
 class PanelMotionTest : public PanelContainerViewTest { };
 
 TEST_F(PanelMotionTest, TheArcGrowsEvenlyForAThirdOfASecondHoweverLongThePhase)
 {
     for (const int minutes : {1, 25, 120}) {
         build(minutes);
-        timer->start();
+        timer().start();
         turn();
-        for (int tick = 0; tick < 3; ++tick) {
-            runLoop.advance(1s);
+        for (int second = 0; second < 3; ++second) {
+            tick(1);
             const auto& ring = child<CircularProgressView>();
 
-            EXPECT_NEAR(ring.drawnProgress() * minutes * 60, tick, 1e-6);
+            EXPECT_NEAR(ring.drawnProgress() * minutes * 60, second, 1e-6);
             for (const double part : {0.2, 0.4, 0.6, 0.8, 1.0}) {
                 moveTo(static_cast<int>(part * 350));
-                EXPECT_NEAR(ring.drawnProgress() * minutes * 60, tick + part, 1e-6);
+                EXPECT_NEAR(ring.drawnProgress() * minutes * 60, second + part, 1e-6);
             }
             look();
         }
@@ -36,14 +34,14 @@ TEST_F(PanelMotionTest, TheArcGrowsEvenlyForAThirdOfASecondHoweverLongThePhase)
 TEST_F(PanelMotionTest, TheArcIsDrawnLongerOnEveryTickOfTheUsualPhase)
 {
     build(25);
-    timer->start();
+    timer().start();
     auto before = child<CircularProgressView>().grab().toImage();
-    for (int tick = 1; tick <= 60; ++tick) {
-        runLoop.advance(1s);
+    for (int second = 1; second <= 60; ++second) {
+        tick(1);
         moveTo(Motion::usualDuration);
 
         auto after = child<CircularProgressView>().grab().toImage();
-        EXPECT_NE(before, after) << tick;
+        EXPECT_NE(before, after) << second;
         before = std::move(after);
     }
 }
@@ -51,15 +49,15 @@ TEST_F(PanelMotionTest, TheArcIsDrawnLongerOnEveryTickOfTheUsualPhase)
 TEST_F(PanelMotionTest, DigitsThatChangeRollUpwardsAndTheOthersStandStill)
 {
     build();
-    timer->start();
+    timer().start();
     turn();
-    runLoop.advance(1s);
+    tick(1);
     look();
     moveTo(Motion::usualDuration);
     const auto before = child<RollingTime>().glyphs();
     ASSERT_EQ(before.size(), 5u);
 
-    runLoop.advance(1s);
+    tick(1);
     double oldY = 0;
     double newY = 1000;
     for (int moment = 50; moment < Motion::usualDuration; moment += 50) {
@@ -88,14 +86,14 @@ TEST_F(PanelMotionTest, DigitsThatChangeRollUpwardsAndTheOthersStandStill)
 TEST_F(PanelMotionTest, EachDigitHasACellOfFixedWidth)
 {
     build(1);
-    timer->start();
-    runLoop.advance(1s);
+    timer().start();
+    tick(1);
     moveTo(Motion::usualDuration);
     const auto first = child<RollingTime>().glyphs();
 
     // The last one ends in one place, and need not begin there; only for a narrow one do the others move.
     for (int second = 1; second < 60; ++second) {
-        runLoop.advance(1s);
+        tick(1);
         moveTo(Motion::usualDuration);
         const auto glyphs = child<RollingTime>().glyphs();
         ASSERT_EQ(glyphs.size(), first.size());
@@ -147,7 +145,7 @@ TEST_F(PanelMotionTest, ANewPhaseFadesTheOldTitleOutWhileTheNewOneComesIn)
 {
     build();
     auto& title = child<PhaseTitle>();
-    timer->switchToPhase(PomodoroPhase::breakTime);
+    timer().switchToPhase(PomodoroPhase::breakTime);
     turn();
     // Only the old title has a colour of its own; the new one is as dark as what is read.
     const auto strengths = [&] {
@@ -180,13 +178,13 @@ TEST_F(PanelMotionTest, UnderReducedMotionEverythingJumps)
 {
     QApplication::setEffectEnabled(Qt::UI_General, false);
     build(1);
-    timer->start();
+    timer().start();
     turn();
-    runLoop.advance(1s);
+    tick(1);
 
     EXPECT_NEAR(child<CircularProgressView>().drawnProgress(), 1.0 / 60, 1e-9);
     EXPECT_EQ(child<RollingTime>().glyphs().size(), 5u);
-    timer->switchToPhase(PomodoroPhase::breakTime);
+    timer().switchToPhase(PomodoroPhase::breakTime);
     turn();
     for (const auto* motion : view->findChildren<Motion*>())
         EXPECT_EQ(motion->state(), QAbstractAnimation::Stopped);
@@ -195,15 +193,15 @@ TEST_F(PanelMotionTest, UnderReducedMotionEverythingJumps)
 TEST_F(PanelMotionTest, WhileHiddenNothingIsReadOrMovedAndShowingIsCurrentAtOnce)
 {
     build(1);
-    timer->start();
+    timer().start();
     turn();
     view->hide();
     PaintCounter paints(*view);
 
-    timer->pause();
-    timer->start();
+    timer().pause();
+    timer().start();
     EXPECT_EQ(runLoop.waitingWorks(), 0u);
-    runLoop.advance(20s);
+    tick(20);
     EXPECT_EQ(child<RollingTime>().spokenText(), "01:00");
     EXPECT_TRUE(paints.counts.empty());
 
@@ -216,9 +214,9 @@ TEST_F(PanelMotionTest, WhileHiddenNothingIsReadOrMovedAndShowingIsCurrentAtOnce
 TEST_F(PanelMotionTest, HidingEndsWhatMoves)
 {
     build(1);
-    timer->start();
+    timer().start();
     turn();
-    runLoop.advance(1s);
+    tick(1);
     moveTo(50);
     ASSERT_EQ(child<RollingTime>().glyphs().size(), 8u);
 
@@ -232,9 +230,9 @@ TEST_F(PanelMotionTest, HidingEndsWhatMoves)
 TEST_F(PanelMotionTest, ManyChangesAreOneRefresh)
 {
     build();
-    timer->start();
-    timer->pause();
-    timer->reset();
+    timer().start();
+    timer().pause();
+    timer().reset();
     EXPECT_EQ(runLoop.waitingWorks(), 1u);
 
     turn();
@@ -244,8 +242,8 @@ TEST_F(PanelMotionTest, ManyChangesAreOneRefresh)
 TEST_F(PanelMotionTest, WhatDidNotChangeIsNotPainted)
 {
     build();
-    timer->start();
-    runLoop.advance(5s);
+    timer().start();
+    tick(5);
     moveTo(Motion::usualDuration);
     PaintCounter paints(*view);
     // Everything asked for by now is painted together with the button.
@@ -256,7 +254,7 @@ TEST_F(PanelMotionTest, WhatDidNotChangeIsNotPainted)
     };
     ASSERT_TRUE(settle("Pause"));
 
-    timer->autoTransition.set(true);
+    timer().autoTransition.set(true);
     turn();
     ASSERT_TRUE(settle("Pause"));
     EXPECT_EQ(paints.counts[&child<CircularProgressView>()], 0);
@@ -266,7 +264,7 @@ TEST_F(PanelMotionTest, WhatDidNotChangeIsNotPainted)
     EXPECT_EQ(paints.counts[label("velto")], 0);
 
     // A tick paints the time and the ring, and neither the title nor the buttons nor the lines below.
-    runLoop.advance(1s);
+    tick(1);
     ASSERT_TRUE(settle("Pause"));
     EXPECT_GT(paints.counts[&child<CircularProgressView>()], 0);
     EXPECT_GT(paints.counts[&child<RollingTime>()], 0);

@@ -28,7 +28,7 @@ TEST_F(SettingsSheetControlsTest, TypingTenMinutesIsAppliedThoughTheSliderEndsAt
     QTest::mouseClick(find<Button>("Apply"), Qt::LeftButton);
 
     EXPECT_EQ(settings.focusMinutes(), 10);
-    EXPECT_EQ(timer.focusDuration(), 600);
+    EXPECT_EQ(timer().focusDuration(), 600);
     EXPECT_EQ(dismissals, 1);
 }
 
@@ -290,7 +290,7 @@ TEST_F(SettingsSheetControlsTest, ASwitchStaysUnderThePointerWhenThePageGetsShor
 TEST_F(SettingsSheetControlsTest, TheVolumeIsHeardWhileItIsDraggedAndRestoredByCancel)
 {
     settings.enableFocusMusic.set(true);
-    timer.start();
+    timer().start();
     open();
     players.calls.clear();
     auto* slider = find<Slider>("Volume");

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/PomodoroTimer.h"
-#include "settings/AppSettings.h"
 #include "settings_form/EditableNumberField.h"
 #include "settings_form/SettingsSheet.h"
 #include "style/Button.h"
@@ -10,10 +8,7 @@
 #include "style/Slider.h"
 #include "style/TextLabel.h"
 #include "style/ToggleSwitch.h"
-#include "support/FakeKeyValueStore.h"
-#include "support/FakeRunLoop.h"
-#include "support/FakeSoundLibrary.h"
-#include "support/FakeStreamPlayerFactory.h"
+#include "support/World.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -30,14 +25,8 @@
 namespace velto {
 
 /// The settings form over a timer in virtual time.
-class SettingsSheetTest : public testing::Test {
+class SettingsSheetTest : public testing::Test, protected World {
 protected:
-    FakeKeyValueStore store;
-    FakeSoundLibrary sounds;
-    FakeStreamPlayerFactory players;
-    FakeRunLoop runLoop;
-    AppSettings settings{store, sounds};
-    PomodoroTimer timer{settings, runLoop, players};
     std::unique_ptr<SettingsSheet> sheet;
     int dismissals = 0;
 
@@ -45,7 +34,7 @@ protected:
 
     void open(QSize size = SettingsSheet::preferredSize)
     {
-        sheet = std::make_unique<SettingsSheet>(settings, timer, runLoop, [this] { ++dismissals; });
+        sheet = std::make_unique<SettingsSheet>(settings, timer(), runLoop, [this] { ++dismissals; });
         sheet->resize(size);
         sheet->show();
         sheet->activateWindow();

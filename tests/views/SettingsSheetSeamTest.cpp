@@ -19,8 +19,8 @@ protected:
         makeSheet = [this](AppSettings& sheetSettings, PomodoroTimer& sheetTimer, QWidget& presenter,
                         std::function<void()> done) {
             ++made;
-            EXPECT_EQ(&sheetSettings, settings.get());
-            EXPECT_EQ(&sheetTimer, timer.get());
+            EXPECT_EQ(&sheetSettings, &settings);
+            EXPECT_EQ(&sheetTimer, &timer());
             auto built = std::make_unique<QWidget>(presenter.window(), Qt::Tool);
             sheet = built.get();
             dismiss = std::move(done);

@@ -166,7 +166,7 @@ TEST_F(SettingsSheetTest, CancelAndEscapeDismissWithoutWriting)
 TEST_F(SettingsSheetTest, ACloseFromOutsideIsCancel)
 {
     settings.enableFocusMusic.set(true);
-    timer.start();
+    timer().start();
     for (const bool isHidden : {false, true}) {
         open();
         players.calls.clear();
@@ -330,7 +330,7 @@ TEST_F(SettingsSheetTest, IsNotRedrawnWhileNothingChanges)
 {
     open();
 
-    timer.start();
+    timer().start();
     runLoop.advance(std::chrono::seconds(3));
 
     EXPECT_EQ(runLoop.waitingWorks(), 0U);

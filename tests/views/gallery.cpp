@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Draws every view in every form into pictures: velto_gallery FOLDER. The scale is QT_SCALE_FACTOR.
 
-#include "core/PomodoroTimer.h"
 #include "help_about/AboutView.h"
 #include "help_about/HelpView.h"
 #include "panel/PanelContainerView.h"
-#include "settings/AppSettings.h"
 #include "settings_form/SettingsSheet.h"
 #include "style/Button.h"
 #include "style/CardMenu.h"
@@ -21,11 +19,8 @@
 #include "style/ToggleSwitch.h"
 #include "support/FakeBundle.h"
 #include "support/FakeCalendar.h"
-#include "support/FakeKeyValueStore.h"
-#include "support/FakeRunLoop.h"
-#include "support/FakeSoundLibrary.h"
-#include "support/FakeStreamPlayerFactory.h"
 #include "support/FakeWorkspace.h"
+#include "support/World.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -34,8 +29,6 @@
 #include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
-
-using namespace std::chrono_literals;
 
 namespace velto {
 
@@ -48,41 +41,41 @@ public:
     void drawAll()
     {
         card("fresh", 25, 5, {});
-        card("running", 25, 5, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
-            timer.start();
-            loop.advance(547s);
+        card("running", 25, 5, [&](World& world) {
+            world.timer().start();
+            world.tick(547);
         });
-        for (const auto& [name, elapsed] : {std::pair{"one-first", 450s}, std::pair{"one-last", 9s}})
-            card(name, 25, 5, [&, past = elapsed](PomodoroTimer& timer, FakeRunLoop& loop) {
-                timer.start();
-                loop.advance(past);
+        for (const auto& [name, elapsed] : {std::pair{"one-first", 450}, std::pair{"one-last", 9}})
+            card(name, 25, 5, [&, past = elapsed](World& world) {
+                world.timer().start();
+                world.tick(past);
             });
-        card("paused", 25, 5, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
-            timer.start();
-            loop.advance(1111s);
-            timer.pause();
+        card("paused", 25, 5, [&](World& world) {
+            world.timer().start();
+            world.tick(1111);
+            world.timer().pause();
         });
-        card("break", 25, 5, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
-            timer.switchToPhase(PomodoroPhase::breakTime);
-            timer.start();
-            loop.advance(72s);
+        card("break", 25, 5, [&](World& world) {
+            world.timer().switchToPhase(PomodoroPhase::breakTime);
+            world.timer().start();
+            world.tick(72);
         });
-        card("rolling", 20, 5, {}, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
-            timer.start();
-            loop.advance(1s);
+        card("rolling", 20, 5, {}, [&](World& world) {
+            world.timer().start();
+            world.tick(1);
         });
-        card("fading", 25, 5, {}, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
-            timer.switchToPhase(PomodoroPhase::breakTime);
-            loop.runTurns();
+        card("fading", 25, 5, {}, [&](World& world) {
+            world.timer().switchToPhase(PomodoroPhase::breakTime);
+            world.runLoop.runTurns();
         });
-        card("end", 25, 5, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
-            timer.start();
-            loop.advance(1500s);
+        card("end", 25, 5, [&](World& world) {
+            world.timer().start();
+            world.tick(1500);
         });
         card("hundred", 100, 5, {});
-        card("thousand", 1000, 1000, [&](PomodoroTimer& timer, FakeRunLoop& loop) {
-            timer.start();
-            loop.advance(1s);
+        card("thousand", 1000, 1000, [&](World& world) {
+            world.timer().start();
+            world.tick(1);
         });
         card("endless", 123456789, 987654321, {});
         controls();
@@ -91,28 +84,23 @@ public:
     }
 
 private:
-    using Arrangement = std::function<void(PomodoroTimer&, FakeRunLoop&)>;
+    using Arrangement = std::function<void(World&)>;
 
     /// `move` happens before the eyes of the user and is halfway in the picture.
     void card(const QString& name, std::int64_t focusMinutes, std::int64_t breakMinutes, const Arrangement& arrange,
         const Arrangement& move = {})
     {
-        FakeKeyValueStore store;
-        store.values["focusMinutes"] = focusMinutes;
-        store.values["breakMinutes"] = breakMinutes;
-        FakeSoundLibrary sounds;
-        FakeRunLoop runLoop;
-        FakeStreamPlayerFactory players;
+        World world;
+        world.settings.focusMinutes.set(focusMinutes);
+        world.settings.breakMinutes.set(breakMinutes);
         FakeBundle bundle;
-        AppSettings settings{store, sounds};
-        PomodoroTimer timer{settings, runLoop, players};
-        PanelContainerView view{timer, settings, {360, 420}, runLoop, bundle, {}};
+        PanelContainerView view{world.timer(), world.settings, {360, 420}, world.runLoop, bundle, {}};
         if (arrange)
-            arrange(timer, runLoop);
+            arrange(world);
         view.show();
         if (move) {
             view.grab();
-            move(timer, runLoop);
+            move(world);
             for (auto* motion : view.findChildren<Motion*>()) {
                 if (motion->state() != QAbstractAnimation::Running)
                     continue;
@@ -171,18 +159,13 @@ private:
 
     void windows()
     {
-        FakeKeyValueStore store;
-        FakeSoundLibrary sounds;
-        FakeRunLoop runLoop;
-        FakeStreamPlayerFactory players;
+        World world;
         FakeBundle bundle;
         FakeCalendar calendar;
         FakeWorkspace workspace;
-        AppSettings settings{store, sounds};
-        settings.enableFocusMusic.set(true);
-        settings.countdownSound.set(SoundOption::none);
-        PomodoroTimer timer{settings, runLoop, players};
-        SettingsSheet form{settings, timer, runLoop, [] {}};
+        world.settings.enableFocusMusic.set(true);
+        world.settings.countdownSound.set(SoundOption::none);
+        SettingsSheet form{world.settings, world.timer(), world.runLoop, [] {}};
         form.resize(form.sizeHint());
         form.show();
         save(form, "form");
@@ -196,7 +179,7 @@ private:
         help.resize(600, 600);
         save(help, "help-low");
         bundle.values = {{"CFBundleShortVersionString", "1.0.0"}, {"CFBundleVersion", "1"}};
-        AboutView about{{640, 240}, {"The velto authors", {}, {}, {}}, bundle, calendar, workspace, runLoop};
+        AboutView about{{640, 240}, {"The velto authors", {}, {}, {}}, bundle, calendar, workspace, world.runLoop};
         about.resize(about.sizeHint());
         about.show();
         save(about, "about");
