@@ -6,6 +6,7 @@
 #include "style/PopUpCard.h"
 #include "style/ScrollBar.h"
 
+#include <QAbstractScrollArea>
 #include <QComboBox>
 #include <QEvent>
 #include <QFrame>
@@ -14,6 +15,7 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <vector>
 
 namespace velto {
 
@@ -22,6 +24,8 @@ namespace {
 constexpr int padding = PopUpCard::padding;
 constexpr int checkWidth = PopUpCard::checkWidth;
 constexpr int textMargin = PopUpCard::textMargin;
+/// Most that may be between a list and its picker.
+constexpr int gap = 8;
 
 class RowDelegate final : public QStyledItemDelegate {
 public:
@@ -63,6 +67,43 @@ private:
     const QComboBox& m_picker;
 };
 
+QRect onScreen(const QWidget& widget)
+{
+    return {widget.mapToGlobal(QPoint()), widget.size()};
+}
+
+/// What `widget` scrolls with; null when it stands still.
+const QAbstractScrollArea* pageOf(const QWidget& widget)
+{
+    const auto* parent = widget.parentWidget();
+    while (parent && !qobject_cast<const QAbstractScrollArea*>(parent))
+        parent = parent->parentWidget();
+    return static_cast<const QAbstractScrollArea*>(parent);
+}
+
+/// Where texts and controls of `page` are seen above, below or behind `card`.
+std::vector<QRect> linesOf(const QAbstractScrollArea& page, const QRect& card)
+{
+    const auto visible = onScreen(*page.viewport());
+    std::vector<QRect> lines;
+    for (const auto* widget : page.viewport()->findChildren<QWidget*>()) {
+        const auto line = onScreen(*widget).intersected(visible);
+        const bool isBeside = line.right() < card.left() || line.left() > card.right();
+        if (widget->isVisible() && widget->window() == page.window() && !widget->layout() && !line.isEmpty()
+            && !isBeside)
+            lines.push_back(line);
+    }
+    return lines;
+}
+
+bool cutsAny(const std::vector<QRect>& lines, const QRect& card)
+{
+    return std::ranges::any_of(lines, [&](const QRect& line) {
+        const auto crosses = [&](int y) { return y > line.top() && y < line.bottom(); };
+        return crosses(card.top()) || crosses(card.bottom());
+    });
+}
+
 } // namespace
 
 PickerList::PickerList(QComboBox& picker) : m_picker(picker)
@@ -101,12 +142,28 @@ bool PickerList::eventFilter(QObject* watched, QEvent* event)
 
 void PickerList::placeCard()
 {
-    const auto chosen = visualRect(model()->index(m_picker.currentIndex(), 0));
-    const int chosenY = viewport()->mapTo(m_card, chosen.center()).y();
     const auto usable = m_picker.screen()->availableGeometry();
     m_card->resize(m_card->width(), std::min(m_card->height(), usable.height()));
-    const int wanted = m_picker.mapToGlobal(m_picker.rect().center()).y() - chosenY;
-    m_card->move(m_card->x(), std::max(std::min(wanted, usable.bottom() + 1 - m_card->height()), usable.top()));
+    const auto* page = pageOf(m_picker);
+    const auto visible = page ? usable.intersected(onScreen(*page->viewport())) : usable;
+    const auto& bounds = visible.height() >= m_card->height() ? visible : usable;
+    const int lowest = bounds.bottom() + 1 - m_card->height();
+
+    const auto chosen = visualRect(model()->index(m_picker.currentIndex(), 0));
+    const int chosenY = viewport()->mapTo(m_card, chosen.center()).y();
+    const int wanted = std::clamp(m_picker.mapToGlobal(m_picker.rect().center()).y() - chosenY, bounds.top(), lowest);
+    m_card->move(m_card->x(), wanted);
+    if (!page)
+        return;
+    const auto lines = linesOf(*page, m_card->geometry());
+    const auto neighborhood = onScreen(m_picker).adjusted(0, -gap, 0, gap);
+    for (int shift = 0; shift <= m_card->height(); ++shift) {
+        for (const int y : {wanted - shift, wanted + shift}) {
+            const QRect card(QPoint(m_card->x(), y), m_card->size());
+            if (y >= bounds.top() && y <= lowest && card.intersects(neighborhood) && !cutsAny(lines, card))
+                return m_card->move(card.topLeft());
+        }
+    }
 }
 
 } // namespace velto

@@ -89,10 +89,7 @@ void ScrollBar::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const auto outline = color(ColorName::controlOutline, *this);
-    painter.setBrush(isInUse || isHighContrast(palette())
-            ? outline
-            : mixed(outline, color(ColorName::windowBackground, *this), 0.4));
+    painter.setBrush(color(isInUse ? ColorName::secondaryLabel : ColorName::controlOutline, *this));
     painter.drawRoundedRect(thumb, radius, radius);
 }
 
