@@ -76,6 +76,29 @@ INSTANTIATE_TEST_SUITE_P(All, SymbolTest, testing::ValuesIn(allSymbols), [](cons
     return name;
 });
 
+TEST(SymbolsTest, TheStopwatchOnADiscHasADialAndAHandAlsoWhenSmall)
+{
+    const auto image = symbolPixmap("timer.circle.fill", 16, Qt::black).toImage();
+    const auto ink = [&](int x, int y) { return image.pixelColor(x, y).alphaF(); };
+
+    EXPECT_LT(ink(5, 9), 0.1) << "the dial, left of the hand";
+    EXPECT_LT(ink(8, 11), 0.1) << "the dial, below it";
+    EXPECT_GT(ink(8, 8), 0.6) << "the hand";
+    EXPECT_LT(ink(7, 3), 0.1) << "the button at the top";
+    EXPECT_GT(ink(7, 4), 0.8) << "between the two";
+}
+
+TEST(SymbolsTest, TheArrowBackHasASolidHeadAlsoWhenSmall)
+{
+    const auto image = symbolPixmap("arrow.counterclockwise", 16, Qt::black).toImage();
+    int solid = 0;
+    for (int y = 1; y < 6; ++y)
+        for (int x = 4; x < 8; ++x)
+            solid += image.pixelColor(x, y).alphaF() > 0.6 ? 1 : 0;
+
+    EXPECT_GE(solid, 10);
+}
+
 TEST(SymbolsTest, AnUnknownNameIsANullPixmapAndAnIconThatDrawsNothing)
 {
     EXPECT_TRUE(symbolPixmap("no.such.symbol", 16, Qt::black).isNull());

@@ -8,6 +8,7 @@
 
 #include <QDialog>
 #include <QEvent>
+#include <QFile>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QPainter>
@@ -38,12 +39,14 @@ void hideTitle(const QWidget& window)
             noBreakSpace.size(), noBreakSpace.data());
 }
 
-/// Drawn here: what lets Qt read such a picture by itself is a plug-in that may not be installed.
+/// Drawn here: what lets Qt read such a picture by itself is a plug-in that may not be installed. The smallest have
+/// drawings of their own.
 QIcon applicationIcon()
 {
-    QSvgRenderer picture(QStringLiteral(":/icons/org.velto.Velto.svg"));
     QIcon icon;
     for (const int side : {16, 24, 32, 48, 64, 128}) {
+        const auto own = QStringLiteral(":/icons/org.velto.Velto-%1.svg").arg(side);
+        QSvgRenderer picture(QFile::exists(own) ? own : QStringLiteral(":/icons/org.velto.Velto.svg"));
         QPixmap pixmap(side, side);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);

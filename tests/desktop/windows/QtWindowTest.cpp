@@ -13,6 +13,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <utility>
+
 namespace velto {
 
 namespace {
@@ -45,6 +48,31 @@ struct Shown {
     QPointer<QWidget> content;
     QPointer<QDialog> dialog;
 };
+
+/// How light it is, from 0 to 1.
+double luminance(const QColor& color)
+{
+    const auto linear = [](double channel) {
+        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+TEST(QtWindowTest, TheSmallIconsHaveARimThatIsSeenOnBlackAndOnWhite)
+{
+    const Shown shown;
+
+    for (const auto& [side, inset] : {std::pair{16, 0}, {24, 1}}) {
+        const auto picture = shown.dialog->windowIcon().pixmap(QSize(side, side), 1.0).toImage();
+        for (const QPoint edge : {QPoint(inset, side / 2), QPoint(side / 2, inset), QPoint(side - 1 - inset, side / 2),
+                 QPoint(side / 2, side - 1 - inset)}) {
+            const auto rim = picture.pixelColor(edge);
+            EXPECT_EQ(rim.alpha(), 255) << side;
+            EXPECT_GE(luminance(rim) + 0.05, 3 * (luminance(Qt::black) + 0.05)) << side;
+            EXPECT_GE(luminance(Qt::white) + 0.05, 3 * (luminance(rim) + 0.05)) << side;
+        }
+    }
+}
 
 TEST(QtWindowTest, IsAsLargeAsItsViewAndCannotBeResizedOrMinimised)
 {
