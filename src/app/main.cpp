@@ -7,6 +7,7 @@
 #include "desktop/session/BuildBundle.h"
 #include "desktop/session/CommandLine.h"
 #include "desktop/session/EndSignals.h"
+#include "desktop/session/Language.h"
 #include "desktop/session/QtApplication.h"
 #include "desktop/session/QtCalendar.h"
 #include "desktop/session/QtRunLoop.h"
@@ -29,6 +30,7 @@
 #include "settings_form/SettingsSheet.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QWindow>
 
 #include <csignal>
@@ -129,6 +131,7 @@ int main(int argc, char* argv[])
     }();
     if (const auto status = velto::refuseUnknown(QApplication::arguments()))
         return *status;
+    velto::speak(QLocale::system().uiLanguages());
     velto::setWindowClass(QStringLiteral("org.velto.Velto"));
     QApplication::setApplicationName(QStringLiteral("velto"));
     QApplication::setApplicationDisplayName(QStringLiteral("velto"));

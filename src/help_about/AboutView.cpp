@@ -3,6 +3,7 @@
 
 #include "help_about/AboutTexts.h"
 #include "help_about/ApplicationIcon.h"
+#include "platform/Bundle.h"
 #include "platform/Calendar.h"
 #include "platform/RunLoop.h"
 #include "platform/Workspace.h"
@@ -38,11 +39,11 @@ AboutView::AboutView(QSize size, AboutDetails details, const Bundle& bundle, con
     m_rights(new TextLabel({}, TextStyle::footnote, ColorName::tertiaryLabel))
 {
     auto* icon = new ApplicationIcon(120, 16);
-    auto* description = new Paragraph("A focus timer companion built to keep sessions simple and distraction-free.",
+    auto* description = new Paragraph(tr("A focus timer companion built to keep sessions simple and distraction-free."),
         TextStyle::body, ColorName::secondaryLabel, Qt::AlignHCenter);
-    auto* support = link("Support", m_details.supportLink);
-    auto* website = link("Website", m_details.websiteLink);
-    auto* coffee = link("Buy Me a Coffee", m_details.donationLink);
+    auto* support = link(tr("Support"), m_details.supportLink);
+    auto* website = link(tr("Website"), m_details.websiteLink);
+    auto* coffee = link(tr("Buy Me a Coffee"), m_details.donationLink);
 
     auto* links = row({.spacing = 16}, support, website, coffee);
     auto* words = column({.spacing = 10}, m_title, filling(description), links, spacer);
@@ -76,9 +77,11 @@ void AboutView::hideEvent(QHideEvent* event)
 
 void AboutView::refresh()
 {
-    m_title->setText(QString::fromStdString(aboutTitle(m_bundle)));
+    m_title->setText(tr("%1 - Focus Timer").arg(QString::fromStdString(applicationName(m_bundle))));
     m_version->setText(QString::fromStdString(versionString(m_bundle)));
-    m_rights->setText(QString::fromStdString(rightsLine(m_calendar.currentYear(), m_details.rightsHolder)));
+    m_rights->setText(
+        tr("© %1 %2. All rights reserved.")
+            .arg(QString::number(m_calendar.currentYear()), QString::fromStdString(m_details.rightsHolder)));
 }
 
 QWidget* AboutView::link(const QString& title, const std::string& url)

@@ -24,31 +24,32 @@ constexpr int leastSpacing = 6;
 HelpView::HelpView(QSize size) : m_size(size)
 {
     auto* icon = new ApplicationIcon(80, 16);
-    auto* welcome = new TextLabel("Welcome to velto", TextStyle::title, ColorName::label, QFont::Bold);
-    auto* purpose = new Paragraph(
-        "A simple focus timer for productivity sessions", TextStyle::body, ColorName::secondaryLabel, Qt::AlignHCenter);
-    auto* start = new HelpSection("play.circle.fill", "Getting Started",
-        "Find velto in your menu bar at the top of your screen:\n"
-        "• Left click the icon to see your timer\n"
-        "• Right click the icon to open the settings");
-    auto* controls = new HelpSection("timer.circle.fill", "Timer Controls",
-        "• Click Start to begin a focus session\n"
-        "• Pause anytime to take a break\n"
-        "• Reset to start over\n"
-        "• Switch between Focus and Break phases");
-    auto* customize = new HelpSection("gearshape.fill", "Customize Your Experience",
-        "• Adjust focus and break durations\n"
-        "• Choose one of our music presets or add your own\n"
-        "• Enable auto-transition between phases\n"
-        "• Customize notification sounds");
-    auto* music = new HelpSection("music.note", "Music",
-        "Enable background music to enhance concentration. Choose from Lo-Fi, Ambient, or other presets in Settings.");
-    auto* tips = new HelpSection("lightbulb.fill", "Pro Tips",
-        "• Default: 25 min focus, 5 min break (Pomodoro Technique)\n"
-        "• Music volume can be adjusted in settings\n"
-        "• Settings changes won't interrupt active sessions\n"
-        "• Access this help anytime from the menu");
-    auto* footer = new Paragraph("You can access this guide anytime from the menu bar → How to Use",
+    auto* welcome = new TextLabel(tr("Welcome to velto"), TextStyle::title, ColorName::label, QFont::Bold);
+    auto* purpose = new Paragraph(tr("A simple focus timer for productivity sessions"), TextStyle::body,
+        ColorName::secondaryLabel, Qt::AlignHCenter);
+    auto* start = new HelpSection("play.circle.fill", tr("Getting Started"),
+        tr("Find velto in your menu bar at the top of your screen:\n"
+           "• Left click the icon to see your timer\n"
+           "• Right click the icon to open the settings"));
+    auto* controls = new HelpSection("timer.circle.fill", tr("Timer Controls"),
+        tr("• Click Start to begin a focus session\n"
+           "• Pause anytime to take a break\n"
+           "• Reset to start over\n"
+           "• Switch between Focus and Break phases"));
+    auto* customize = new HelpSection("gearshape.fill", tr("Customize Your Experience"),
+        tr("• Adjust focus and break durations\n"
+           "• Choose one of our music presets or add your own\n"
+           "• Enable auto-transition between phases\n"
+           "• Customize notification sounds"));
+    auto* music = new HelpSection("music.note", tr("Music"),
+        tr("Enable background music to enhance concentration. Choose from Lo-Fi, Ambient, or other presets in "
+           "Settings."));
+    auto* tips = new HelpSection("lightbulb.fill", tr("Pro Tips"),
+        tr("• Default: 25 min focus, 5 min break (Pomodoro Technique)\n"
+           "• Music volume can be adjusted in settings\n"
+           "• Settings changes won't interrupt active sessions\n"
+           "• Access this help anytime from the menu"));
+    auto* footer = new Paragraph(tr("You can access this guide anytime from the menu bar → How to Use"),
         TextStyle::footnote, ColorName::secondaryLabel, Qt::AlignHCenter);
     welcome->setAlignment(Qt::AlignHCenter);
 

@@ -3,6 +3,7 @@
 
 #include "core/PomodoroTimer.h"
 #include "platform/Application.h"
+#include "platform/Text.h"
 #include "platform/Window.h"
 #include "settings/AppSettings.h"
 
@@ -82,16 +83,17 @@ StatusMenu::StatusMenu(PomodoroTimer& timer, AppSettings& settings, Desktop desk
     m_desktop(std::move(desktop)),
     m_startPauseItem(makeItem({}, [this](const MenuItem&) { toggleStartPause(); })),
     m_resetItem(makeItem({}, [this](const MenuItem&) { m_timer.reset(); })),
-    m_autoTransitionItem(makeItem("Auto-Transition", [this](const MenuItem&) { toggleAutoTransition(); })),
-    m_focusDurationMenu(durationMenu("Focus Duration", {15, 20, 25, 30, 45, 50, 60, 90}, focusMinutes(),
-        [this](std::int64_t minutes) { m_timer.updateDurations(minutes, breakMinutes()); })),
-    m_breakDurationMenu(durationMenu("Break Duration", {5, 10, 15, 20, 30}, breakMinutes(),
+    m_autoTransitionItem(
+        makeItem(translatable("Menu", "Auto-Transition"), [this](const MenuItem&) { toggleAutoTransition(); })),
+    m_focusDurationMenu(durationMenu(translatable("Menu", "Focus Duration"), {15, 20, 25, 30, 45, 50, 60, 90},
+        focusMinutes(), [this](std::int64_t minutes) { m_timer.updateDurations(minutes, breakMinutes()); })),
+    m_breakDurationMenu(durationMenu(translatable("Menu", "Break Duration"), {5, 10, 15, 20, 30}, breakMinutes(),
         [this](std::int64_t minutes) { m_timer.updateDurations(focusMinutes(), minutes); })),
     m_presetsMenu(presetsMenu()),
-    m_focusMusicMenu(
-        musicMenu("Focus Music", [this](const MusicChange& change) { updateMusic(change, MusicUnchanged{}); })),
-    m_breakMusicMenu(
-        musicMenu("Break Music", [this](const MusicChange& change) { updateMusic(MusicUnchanged{}, change); })),
+    m_focusMusicMenu(musicMenu(translatable("Menu", "Focus Music"),
+        [this](const MusicChange& change) { updateMusic(change, MusicUnchanged{}); })),
+    m_breakMusicMenu(musicMenu(translatable("Menu", "Break Music"),
+        [this](const MusicChange& change) { updateMusic(MusicUnchanged{}, change); })),
     m_phaseMenu(phaseSelectionMenu()),
     m_menu(makeMenu(""))
 {
@@ -112,15 +114,15 @@ StatusMenu::StatusMenu(PomodoroTimer& timer, AppSettings& settings, Desktop desk
         makeSeparator(),
         m_autoTransitionItem,
         makeSeparator(),
-        makeItem("Settings…", openSettings(), Symbol{"gearshape", "Settings"}),
+        makeItem(translatable("Menu", "Settings…"), openSettings(), Symbol{"gearshape", "Settings"}),
         makeItem(
-            "How to Use", [this](const MenuItem&) { show(*m_desktop.helpController); },
+            translatable("Menu", "How to Use"), [this](const MenuItem&) { show(*m_desktop.helpController); },
             Symbol{"questionmark.circle", "Help"}),
         makeItem(
-            "About velto", [this](const MenuItem&) { show(*m_desktop.aboutController); },
+            translatable("Menu", "About velto"), [this](const MenuItem&) { show(*m_desktop.aboutController); },
             Symbol{"info.circle", "About"}),
         makeSeparator(),
-        makeItem("Quit", [this](const MenuItem&) { m_desktop.application.terminate(); }),
+        makeItem(translatable("Menu", "Quit"), [this](const MenuItem&) { m_desktop.application.terminate(); }),
     };
     updateTimerItems(m_timer.remainingSeconds(), m_timer.phase());
 }
@@ -137,21 +139,21 @@ std::shared_ptr<Menu> StatusMenu::durationMenu(const std::string& title, const s
 {
     auto menu = makeMenu(title);
     for (const auto value : values) {
-        menu->items.push_back(makeChoice(std::to_string(value) + " minutes", DurationChoice{value},
-            [apply](const DurationChoice& choice) { apply(choice.minutes); }));
+        menu->items.push_back(makeChoice(withNumbers(translatableCount("Menu", "%n minutes"), {value}),
+            DurationChoice{value}, [apply](const DurationChoice& choice) { apply(choice.minutes); }));
         menu->items.back()->isOn = value == currentMinutes;
     }
     menu->items.push_back(makeSeparator());
-    menu->items.push_back(makeItem("Custom…", openSettings()));
+    menu->items.push_back(makeItem(translatable("Menu", "Custom…"), openSettings()));
     return menu;
 }
 
 std::shared_ptr<Menu> StatusMenu::presetsMenu()
 {
-    auto menu = makeMenu("Presets");
+    auto menu = makeMenu(translatable("Menu", "Presets"));
     for (const auto& preset : {DurationPreset{25, 5}, {50, 10}, {60, 10}, {90, 15}}) {
         menu->items.push_back(makeChoice(
-            std::to_string(preset.focus) + "m focus / " + std::to_string(preset.breakTime) + "m break", preset,
+            withNumbers(translatable("Menu", "%1m focus / %2m break"), {preset.focus, preset.breakTime}), preset,
             [this](const DurationPreset& chosen) { m_timer.updateDurations(chosen.focus, chosen.breakTime); }));
     }
     return menu;
@@ -163,10 +165,10 @@ std::shared_ptr<Menu> StatusMenu::phaseSelectionMenu()
         if (const auto phase = pomodoroPhase(number))
             m_timer.switchToPhase(*phase);
     };
-    auto menu = makeMenu("Current Phase");
+    auto menu = makeMenu(translatable("Menu", "Current Phase"));
     menu->items = {
-        makeChoice("Focus", static_cast<std::int64_t>(PomodoroPhase::focus), select),
-        makeChoice("Break", static_cast<std::int64_t>(PomodoroPhase::breakTime), select),
+        makeChoice(translatable("Menu", "Focus"), static_cast<std::int64_t>(PomodoroPhase::focus), select),
+        makeChoice(translatable("Menu", "Break"), static_cast<std::int64_t>(PomodoroPhase::breakTime), select),
     };
     return menu;
 }
@@ -177,11 +179,11 @@ std::shared_ptr<Menu> StatusMenu::musicMenu(
     const auto choose
         = [apply](const MusicChoice& choice) { apply(choice.preset ? MusicChange(*choice.preset) : MusicOff{}); };
     auto menu = makeMenu(title);
-    menu->items = {makeChoice("None", MusicChoice{}, choose), makeSeparator()};
+    menu->items = {makeChoice(translatable("Menu", "None"), MusicChoice{}, choose), makeSeparator()};
     for (const auto preset : allMusicPresets)
         menu->items.push_back(makeChoice(std::string(rawValue(preset)), MusicChoice{preset}, choose));
     menu->items.push_back(makeSeparator());
-    menu->items.push_back(makeItem("Edit Custom URL…", openSettings()));
+    menu->items.push_back(makeItem(translatable("Menu", "Edit Custom URL…"), openSettings()));
     return menu;
 }
 
@@ -238,13 +240,15 @@ void StatusMenu::refreshMenuItems(std::optional<std::int64_t> currentRemaining, 
 bool StatusMenu::updateTimerItems(std::int64_t currentRemaining, PomodoroPhase phase)
 {
     const bool isBreak = phase == PomodoroPhase::breakTime;
-    const std::string label = isBreak ? "Break" : "Focus";
     const auto total = isBreak ? m_timer.breakDuration() : m_timer.focusDuration();
     const bool isRunning = m_timer.isRunning();
     const bool hasStarted = m_timer.hasStarted();
 
-    bool changed = assign(m_startPauseItem->title, (isRunning ? "Pause " : "Start ") + label);
-    changed |= assign(m_resetItem->title, "Reset " + label);
+    const auto* start = isBreak ? translatable("Menu", "Start Break") : translatable("Menu", "Start Focus");
+    const auto* pause = isBreak ? translatable("Menu", "Pause Break") : translatable("Menu", "Pause Focus");
+    const auto* reset = isBreak ? translatable("Menu", "Reset Break") : translatable("Menu", "Reset Focus");
+    bool changed = assign(m_startPauseItem->title, isRunning ? pause : start);
+    changed |= assign(m_resetItem->title, reset);
     changed |= assign(m_resetItem->isHidden, !isRunning && !hasStarted);
     changed |= assign(m_resetItem->isEnabled, isRunning || (hasStarted && currentRemaining < total));
     changed |= assign(m_autoTransitionItem->isOn, m_timer.autoTransition());

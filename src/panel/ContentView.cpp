@@ -13,6 +13,7 @@
 #include "style/Stack.h"
 #include "style/SymbolView.h"
 #include "style/TextLabel.h"
+#include "style/Translation.h"
 
 #include <utility>
 
@@ -97,7 +98,7 @@ void ContentView::refresh()
     m_title->setTitle(isFocus ? tr("Focus") : tr("Break"), phaseColor);
     m_time->setTime(QString::fromStdString(timeText(remaining)), timeFontSize(remaining));
     showControls(controlsForm(m_timer.isRunning(), m_timer.hasStarted()));
-    const auto durations = QString::fromStdString(durationsLine(m_timer.focusDuration(), m_timer.breakDuration()));
+    const auto durations = translated("TimerDisplay", durationsLine(m_timer.focusDuration(), m_timer.breakDuration()));
     if (durations != m_durations->text())
         m_durations->setText(durations);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "panel/TimerDisplay.h"
 
+#include "platform/Text.h"
+
 namespace velto {
 
 ControlsForm controlsForm(bool isRunning, bool hasStarted)
@@ -24,8 +26,8 @@ double timeFontSize(std::int64_t remainingSeconds)
 
 std::string durationsLine(std::int64_t focusDuration, std::int64_t breakDuration)
 {
-    return "Focus: " + std::to_string(focusDuration / 60) + "m  \u2022  Break: " + std::to_string(breakDuration / 60)
-        + "m";
+    return withNumbers(
+        translatable("TimerDisplay", "Focus: %1m  •  Break: %2m"), {focusDuration / 60, breakDuration / 60});
 }
 
 } // namespace velto

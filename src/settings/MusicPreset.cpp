@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings/MusicPreset.h"
 
+#include "platform/Text.h"
+
 #include <algorithm>
 
 // The hosts come from the build configuration.
@@ -18,13 +20,13 @@ struct Entry {
 };
 
 constexpr std::array<Entry, allMusicPresets.size()> table{{
-    {"Lo-Fi", "Chill beats for focus", LOFI_STREAM("/0r0xa792kwzuv")},
-    {"Deep Space Ambient", "Deep space ambient", RADIO_STREAM("/deepspaceone-128-mp3")},
-    {"Groove Salad", "Downtempo grooves", RADIO_STREAM("/groovesalad-128-mp3")},
-    {"DEF CON Radio", "Hacker/cyberpunk vibes", RADIO_STREAM("/defcon-128-mp3")},
-    {"Space Station", "Beatless ambient", RADIO_STREAM("/spacestation-128-mp3")},
-    {"Lush", "Sensuous & mellow", RADIO_STREAM("/lush-128-mp3")},
-    {"Custom URL", "Your own streaming URL", ""},
+    {"Lo-Fi", translatable("MusicPreset", "Chill beats for focus"), LOFI_STREAM("/0r0xa792kwzuv")},
+    {"Deep Space Ambient", translatable("MusicPreset", "Deep space ambient"), RADIO_STREAM("/deepspaceone-128-mp3")},
+    {"Groove Salad", translatable("MusicPreset", "Downtempo grooves"), RADIO_STREAM("/groovesalad-128-mp3")},
+    {"DEF CON Radio", translatable("MusicPreset", "Hacker/cyberpunk vibes"), RADIO_STREAM("/defcon-128-mp3")},
+    {"Space Station", translatable("MusicPreset", "Beatless ambient"), RADIO_STREAM("/spacestation-128-mp3")},
+    {"Lush", translatable("MusicPreset", "Sensuous & mellow"), RADIO_STREAM("/lush-128-mp3")},
+    {translatable("Menu", "Custom URL"), translatable("MusicPreset", "Your own streaming URL"), ""},
 }};
 
 const Entry& entry(MusicPreset preset)

@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SoundOption.h"
 
+#include "platform/Text.h"
+
 #include <algorithm>
 
 namespace velto {
 
 std::string_view rawValue(SoundOption sound)
 {
-    constexpr std::array<std::string_view, allSoundOptions.size()> names{"None", "Basso", "Blow", "Bottle", "Frog",
-        "Funk", "Glass", "Hero", "Morse", "Ping", "Pop", "Purr", "Sosumi", "Submarine", "Tink"};
+    constexpr std::array<std::string_view, allSoundOptions.size()> names{translatable("SoundOption", "None"), "Basso",
+        "Blow", "Bottle", "Frog", "Funk", "Glass", "Hero", "Morse", "Ping", "Pop", "Purr", "Sosumi", "Submarine",
+        "Tink"};
     return names.at(static_cast<std::size_t>(sound));
 }
 

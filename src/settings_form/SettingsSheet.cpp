@@ -13,13 +13,16 @@
 #include "style/TextField.h"
 #include "style/TextLabel.h"
 #include "style/ToggleSwitch.h"
+#include "style/Translation.h"
 
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <array>
+#include <climits>
 #include <cmath>
 #include <utility>
 
@@ -32,11 +35,6 @@ constexpr int controlWidth = 300;
 constexpr int numberWidth = 50;
 constexpr int soundWidth = 140;
 
-QString qString(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 /// Announces only what is new.
 template <class T>
 void assign(Published<T>& published, const T& value)
@@ -45,13 +43,14 @@ void assign(Published<T>& published, const T& value)
         published.set(value);
 }
 
-/// Shows the raw values of `options`; what is chosen goes into `selection`.
+/// Shows the raw values of `options`, translated in `context`; what is chosen goes into `selection`.
 template <class Option, std::size_t Count>
-PopUpPicker* picker(const QString& title, const std::array<Option, Count>& options, Published<Option>& selection)
+PopUpPicker* picker(
+    const QString& title, const char* context, const std::array<Option, Count>& options, Published<Option>& selection)
 {
     auto* picker = new PopUpPicker(title);
     for (const auto option : options)
-        picker->addItem(qString(rawValue(option)));
+        picker->addItem(translated(context, rawValue(option)));
     QObject::connect(picker, &QComboBox::currentIndexChanged, picker, [&options, &selection](int index) {
         if (index >= 0)
             assign(selection, options.at(static_cast<std::size_t>(index)));
@@ -193,7 +192,7 @@ QWidget* SettingsSheet::durationSlider(const QString& title, Published<std::int6
 {
     auto* number = new EditableNumberField(title, value);
     auto* slider = new Slider(range.lowerBound, range.upperBound);
-    auto* unit = new TextLabel(tr("minutes"), TextStyle::body, ColorName::secondaryLabel);
+    auto* unit = new TextLabel({}, TextStyle::body, ColorName::secondaryLabel);
     number->setFixedWidth(numberWidth);
     slider->setAccessibleName(title);
     m_numberFields.push_back(number);
@@ -201,7 +200,10 @@ QWidget* SettingsSheet::durationSlider(const QString& title, Published<std::int6
     connect(number, &QLineEdit::returnPressed, this, [this] { setFocus(); });
     connect(slider, &Slider::chosen, this,
         [&value](double minutes) { assign<std::int64_t>(value, std::llround(minutes)); });
-    m_readings.emplace_back([slider, &value] { slider->showValue(static_cast<double>(value())); });
+    m_readings.emplace_back([slider, unit, &value] {
+        slider->showValue(static_cast<double>(value()));
+        unit->setText(tr("minutes", nullptr, static_cast<int>(std::clamp<std::int64_t>(value(), 0, INT_MAX))));
+    });
     return box(column({.spacing = 6, .alignment = {}}, row({}, new TextLabel(title), spacer, number, unit), slider),
         controlWidth);
 }
@@ -224,7 +226,7 @@ QLayout* SettingsSheet::sounds()
 
 QLayout* SettingsSheet::soundPicker(const QString& title, Published<SoundOption>& selection)
 {
-    auto* sound = picker(title, allSoundOptions, selection);
+    auto* sound = picker(title, "SoundOption", allSoundOptions, selection);
     auto* play = new Button(ButtonKind::borderless, {}, "play.circle.fill");
     auto* label = new TextLabel(title);
     label->setBuddy(sound);
@@ -255,7 +257,7 @@ QLayout* SettingsSheet::phaseMusic(const QString& title, const QString& otherTit
 {
     auto* enable = toggle(title, isOn);
     enable->makeRoomFor(otherTitle);
-    auto* source = picker(tr("Preset"), allMusicPresets, preset);
+    auto* source = picker(tr("Preset"), "Menu", allMusicPresets, preset);
     auto* about = new TextLabel({}, TextStyle::caption, ColorName::secondaryLabel);
     auto* url = new TextField(tr("Custom URL"));
     // The description stands in the room of the field, so that nothing moves when they change places.
@@ -274,7 +276,7 @@ QLayout* SettingsSheet::phaseMusic(const QString& title, const QString& otherTit
     m_readings.emplace_back([=, &isOn, &preset, &customURL] {
         options->setVisible(isOn());
         source->setCurrentIndex(static_cast<int>(preset()));
-        about->setText(qString(description(preset())));
+        about->setText(translated("MusicPreset", description(preset())));
         about->setVisible(preset() != MusicPreset::custom);
         url->setVisible(preset() == MusicPreset::custom);
         if (const auto text = QString::fromStdString(customURL()); text != url->text()) {
@@ -294,7 +296,9 @@ QWidget* SettingsSheet::volumeSlider()
     connect(slider, &Slider::chosen, this,
         [this](double volume) { assign(m_form.musicVolume, static_cast<float>(volume)); });
     m_readings.emplace_back([this, percent, slider] {
-        percent->setText(QString::fromStdString(percentText(m_form.musicVolume())));
+        auto number = QString::fromStdString(percentText(m_form.musicVolume()));
+        number.chop(1);
+        percent->setText(tr("%1%").arg(number));
         slider->showValue(static_cast<double>(m_form.musicVolume()));
     });
     return box(column({.spacing = 6, .alignment = {}}, row({}, new TextLabel(tr("Volume")), spacer, percent), slider),

@@ -96,14 +96,18 @@ void Button::paintEvent(QPaintEvent*)
     }
 
     const double size = m_symbol.isEmpty() ? 0 : symbolSize();
-    double x = std::floor((width() - contentWidth()) / 2);
+    const bool isRightToLeft = layoutDirection() == Qt::RightToLeft;
+    const double side = std::floor((width() - contentWidth()) / 2);
+    double beforeText = side;
     if (size > 0) {
         const auto pixmap = symbolPixmap(m_symbol, size, content, devicePixelRatioF());
+        const double x = isRightToLeft ? width() - side - size : side;
         painter.drawPixmap(QPointF(x, std::round((height() - size) / 2)), pixmap);
-        x += size + symbolGap;
+        beforeText += size + symbolGap;
     }
     painter.setPen(content);
-    drawLine(painter, QRectF(x, 0, width() - x, height()), Qt::AlignLeft, text());
+    drawLine(painter, QRectF(isRightToLeft ? 0 : beforeText, 0, width() - beforeText, height()),
+        isRightToLeft ? Qt::AlignRight : Qt::AlignLeft, text());
 
     if (showsFocus(*this)) {
         const auto inset = isOnTint ? 2 : 0;

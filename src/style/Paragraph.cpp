@@ -13,6 +13,7 @@ namespace {
 
 /// Between two base lines, in parts of the font's size, whichever the face.
 constexpr double lineHeightPerSize = 1.3;
+constexpr double lineHeightPerSizeInArabic = 1.45; ///< With its marks above and below.
 
 QString inOneLayout(QString text)
 {
@@ -49,7 +50,8 @@ void Paragraph::paintEvent(QPaintEvent*)
 
 int Paragraph::lineHeight() const
 {
-    return static_cast<int>(std::ceil(lineHeightPerSize * font().pixelSize()));
+    const double perSize = layoutDirection() == Qt::RightToLeft ? lineHeightPerSizeInArabic : lineHeightPerSize;
+    return static_cast<int>(std::ceil(perSize * font().pixelSize()));
 }
 
 int Paragraph::layOut(QTextLayout& layout, double width) const

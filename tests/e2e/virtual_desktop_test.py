@@ -42,11 +42,11 @@ class TheVirtualDesktop(unittest.TestCase):
             self.assertIn("*M0 1280/320x800/200+1024+0", monitors)
             self.assertIn("M1 1024/256x768/192+0+232", monitors)
 
-    def test_its_fonts_are_no_others_than_the_chosen_one_and_that_of_the_digits(self):
+    def test_its_fonts_are_no_others_than_the_chosen_one_and_those_that_it_lacks(self):
         with VirtualDesktop(host="none", wm="none") as desktop:
             families = {line.split(",")[0] for line in desktop.ask("fc-list", ":", "family").splitlines()}
 
-            self.assertEqual(families, {"Inter", "Quicksand"})
+            self.assertEqual(families, {"Inter", "Quicksand", "Noto Sans Arabic", "Droid Sans Fallback"})
             for name in ("sans-serif", "Cantarell", "monospace"):
                 self.assertEqual(desktop.ask("fc-match", "--format", "%{family}", name), "Inter", name)
 

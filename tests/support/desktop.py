@@ -91,7 +91,7 @@ class Velto:
     def card(self):
         """The timer's card on the screen. LookupError while it is hidden."""
         for window in self.app.children:
-            if window.showing and {"Start", "Pause"} & {button.name for button in window.find_all("push button")}:
+            if window.showing and any(_TIME.fullmatch(label.name) for label in window.find_all("label")):
                 return window
         raise LookupError("the card is hidden")
 

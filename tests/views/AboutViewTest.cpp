@@ -79,6 +79,18 @@ TEST_F(AboutViewTest, ReadsItsTextsAnewWheneverItIsShown)
     EXPECT_TRUE(texts().contains("© 2026 Somebody. All rights reserved."));
 }
 
+TEST_F(AboutViewTest, AnEmptyNameIsANameAndAYearHasNoSeparators)
+{
+    view.hide();
+    bundle.values = {{"CFBundleName", ""}};
+    calendar.year = 12025;
+
+    view.show();
+
+    EXPECT_TRUE(texts().contains(" - Focus Timer"));
+    EXPECT_TRUE(texts().contains("© 12025 Somebody. All rights reserved."));
+}
+
 TEST_F(AboutViewTest, TheYearFollowsTheClockWhileItIsShown)
 {
     calendar.year = 2026;

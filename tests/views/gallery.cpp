@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Draws every view in every form into pictures: velto_gallery FOLDER. The scale is QT_SCALE_FACTOR.
 
+#include "desktop/session/Language.h"
 #include "help_about/AboutView.h"
 #include "help_about/HelpView.h"
 #include "panel/PanelContainerView.h"
@@ -254,6 +255,7 @@ int main(int argc, char* argv[])
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
+    velto::speak({qEnvironmentVariable("VELTO_LANGUAGE", "en")});
     QApplication::setStyle("Fusion");
     QApplication::setEffectEnabled(Qt::UI_General, true);
     QFont font = QApplication::font();

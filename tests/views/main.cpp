@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "desktop/session/Language.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -10,5 +12,6 @@ int main(int argc, char* argv[])
     // Listing the tests comes before an application can be needed.
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
+    velto::speak({qEnvironmentVariable("VELTO_LANGUAGE", "en")});
     return RUN_ALL_TESTS();
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/menus/DBusMenu.h"
 
-#include "desktop/menus/MenuText.h"
 #include "style/Symbols.h"
+#include "style/Translation.h"
 
 #include <QBuffer>
 #include <QDBusError>
@@ -25,7 +25,7 @@ constexpr double symbolRatio = 2;
 /// An underscore would mark the letter behind it as an access key.
 QString hostLabel(const std::string& title)
 {
-    return menuText(title).replace(QLatin1Char('_'), QLatin1String("__"));
+    return translated("Menu", title).replace(QLatin1Char('_'), QLatin1String("__"));
 }
 
 QByteArray png(const Symbol& symbol)

@@ -2,11 +2,11 @@
 #include "desktop/menus/PopUpMenu.h"
 
 #include "desktop/menus/AccessibleApplication.h"
-#include "desktop/menus/MenuText.h"
 #include "desktop/x11/Pixels.h"
 #include "desktop/x11/X11Desktop.h"
 #include "style/CardMenu.h"
 #include "style/Symbols.h"
+#include "style/Translation.h"
 
 #include <QAction>
 #include <QScreen>
@@ -26,7 +26,7 @@ void apply(QAction& action, const MenuItem& item)
     action.setVisible(!item.isHidden);
     if (item.isSeparator)
         return;
-    action.setText(menuText(item.title).replace(QLatin1Char('&'), QLatin1String("&&")));
+    action.setText(translated("Menu", item.title).replace(QLatin1Char('&'), QLatin1String("&&")));
     action.setEnabled(item.isEnabled);
     action.setCheckable(item.isCheckable || item.isOn);
     action.setChecked(item.isOn);

@@ -12,6 +12,7 @@
 #include "desktop/status_item/X11Pointer.h"
 #include "desktop/windows/FlippedGeometry.h"
 #include "desktop/x11/Pixels.h"
+#include "platform/Text.h"
 #include "style/TextStyle.h"
 
 #include <QApplication>
@@ -286,7 +287,7 @@ std::optional<QRect> DesktopStatusItem::anchor() const
 std::shared_ptr<MenuItem> DesktopStatusItem::panelItem()
 {
     auto item = std::make_shared<MenuItem>();
-    item->title = "Show/Hide Timer";
+    item->title = translatable("Menu", "Show/Hide Timer");
     item->action = [this](const MenuItem&) { clicked({}); };
     return item;
 }

@@ -10,7 +10,7 @@ namespace velto {
 
 std::unique_ptr<Window> makeHelpWindow(const Screens& screens)
 {
-    const QString title = "How to Use velto";
+    const auto title = HelpView::tr("How to Use velto");
     return std::make_unique<QtWindow>(screens, title, title, std::make_unique<HelpView>(QSize(600, 800)));
 }
 
@@ -18,7 +18,8 @@ std::unique_ptr<Window> makeAboutWindow(
     const Screens& screens, const Bundle& bundle, const Calendar& calendar, Workspace& workspace, RunLoop& runLoop)
 {
     const AboutDetails details{VELTO_RIGHTS_HOLDER, VELTO_SUPPORT_LINK, VELTO_WEBSITE_LINK, VELTO_DONATION_LINK};
-    return std::make_unique<QtWindow>(screens, QString(), QString::fromStdString("About " + applicationName(bundle)),
+    return std::make_unique<QtWindow>(screens, QString(),
+        AboutView::tr("About %1").arg(QString::fromStdString(applicationName(bundle))),
         std::make_unique<AboutView>(QSize(640, 240), details, bundle, calendar, workspace, runLoop));
 }
 

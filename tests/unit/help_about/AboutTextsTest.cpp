@@ -31,33 +31,6 @@ INSTANTIATE_TEST_SUITE_P(Bundles, VersionStringTest,
         VersionCase{{{"CFBundleVersion", "34"}}, "v- (34)"}, VersionCase{{{"CFBundleVersion", ""}}, "v-"},
         VersionCase{{}, "v-"}));
 
-TEST(AboutTitleTest, NamesTheProgram)
-{
-    FakeBundle bundle;
-    bundle.values["CFBundleName"] = "Egg Clock";
-
-    EXPECT_EQ(aboutTitle(bundle), "Egg Clock - Focus Timer");
-}
-
-TEST(AboutTitleTest, FallsBackToVelto)
-{
-    EXPECT_EQ(aboutTitle(FakeBundle{}), "velto - Focus Timer");
-}
-
-TEST(AboutTitleTest, AnEmptyNameIsAName)
-{
-    FakeBundle bundle;
-    bundle.values["CFBundleName"] = "";
-
-    EXPECT_EQ(aboutTitle(bundle), " - Focus Timer");
-}
-
-TEST(RightsLineTest, WritesTheYearWithoutSeparators)
-{
-    EXPECT_EQ(rightsLine(2025, "The velto authors"), "© 2025 The velto authors. All rights reserved.");
-    EXPECT_EQ(rightsLine(12025, "The velto authors"), "© 12025 The velto authors. All rights reserved.");
-}
-
 } // namespace
 
 } // namespace velto

@@ -1,0 +1,67 @@
+# SPDX-License-Identifier: MIT
+"""catalogues_test.py FOLDER UPDATE...: the catalogues of FOLDER against the texts of the program, which the command
+UPDATE collects."""
+import glob
+import os
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+from xml.etree import ElementTree
+
+LANGUAGES = ["ar", "de", "es", "fr", "ja", "pl", "pt_BR", "zh_CN"]
+FOLDER = os.path.abspath(sys.argv[1])
+UPDATE = sys.argv[2:]
+CATALOGUES = sorted(glob.glob(FOLDER + "/*.ts"))
+
+
+def read(path):
+    with open(path, encoding="utf-8") as file:
+        return file.read()
+
+
+def entries(path):
+    """(source, translation) of each message; each plural form is one."""
+    for message in ElementTree.parse(path).iter("message"):
+        translation = message.find("translation")
+        for text in translation.findall("numerusform") or [translation]:
+            yield message.find("source").text, text.text or ""
+
+
+class Catalogues(unittest.TestCase):
+    def test_there_is_one_for_each_language(self):
+        self.assertEqual([os.path.basename(path) for path in CATALOGUES],
+                         [f"velto_{language}.ts" for language in LANGUAGES])
+
+    def test_they_have_the_texts_of_the_program_and_no_others(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for path in CATALOGUES:
+                copy = shutil.copy(path, folder)
+                subprocess.run([*UPDATE, copy], check=True, stdout=subprocess.DEVNULL, timeout=120)
+                self.assertEqual(read(path), read(copy), "Build the target update_catalogues, and translate.")
+
+    def test_none_has_an_unfinished_text(self):
+        for path in CATALOGUES:
+            self.assertNotRegex(read(path), "unfinished|vanished", path)
+            self.assertEqual([source for source, text in entries(path) if not text.strip()], [], path)
+
+    def test_places_lines_and_bullets_are_those_of_the_source(self):
+        def shape(text):
+            return sorted(re.findall(r"%[n0-9]", text)), text.count("\n"), text.count("\n•"), "…" in text
+
+        for path in CATALOGUES:
+            for source, text in entries(path):
+                if "%n" not in source:  # one and two are words in some languages
+                    self.assertEqual(shape(text), shape(source), (path, source))
+
+    def test_what_is_pressed_is_called_alike_where_it_is_explained(self):
+        for path in CATALOGUES:
+            texts = dict(entries(path))
+            footer = texts["You can access this guide anytime from the menu bar → How to Use"]
+            self.assertIn(texts["How to Use"], footer, path)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
