@@ -17,13 +17,15 @@ class Window:
 
 
 class Desktop:
+    ROOT = None  # the name of the root, if not its own: desktops may share one
     PACKAGES = []
     START = ""  # see Session
     USER = 0
+    PLACES_CARDS = True  # where velto wants them
 
     def __init__(self, folder, name):
         self._folder, self._name = folder, name
-        self._root = Root(os.path.join(folder, name), self.PACKAGES)
+        self._root = Root(os.path.join(folder, self.ROOT or name), self.PACKAGES)
 
     def build(self):
         self._root.build()

@@ -91,7 +91,11 @@ class Session:
             ["unshare", "--pid", "--fork", "--kill-child", "--net", "--ipc", "--uts", "--mount", "bash", "-c", _ENTER,
              "enter", root.folder, PROJECT, str(user), _INIT, start],
             stdin=subprocess.DEVNULL, stdout=self._log, stderr=subprocess.STDOUT)
-        self._wait_for(self._up, "the desktop")
+        try:
+            self._wait_for(self._up, "the desktop")
+        except BaseException:
+            self.close()
+            raise
 
     def _wait_for(self, condition, what, timeout=90):
         end = time.monotonic() + timeout

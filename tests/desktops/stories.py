@@ -45,10 +45,13 @@ class Stories(Story):
         self.assertEqual(desktop.velto("label"), "25:00")
         desktop.save_picture("launch")
 
-    def test_clicks_on_the_time_toggle_the_card(self):
+    def test_clicks_on_the_time_toggle_the_card_under_it(self):
         for _ in range(3):
             self.hide()
             self.show()
+        left, _, width, _ = desktop.card.rectangle
+        item, _ = desktop.item_place()
+        self.assertEqual(left <= item < left + width, desktop.PLACES_CARDS, f"card at {left}, item at {item}")
         desktop.save_picture("card")
 
     def test_a_press_elsewhere_hides_the_card(self):

@@ -18,6 +18,7 @@ cc -I. -o pointer "$0/sway_pointer.c" protocol.c -lwayland-client
 class Sway(Desktop):
     PACKAGES = "sway waybar wtype grim gcc libc6-dev libwayland-dev libwayland-bin".split()
     USER = 1000
+    PLACES_CARDS = False
     START = """
 mkdir -p ~/.config/sway ~/.config/waybar
 cat > ~/.config/waybar/config <<EOF

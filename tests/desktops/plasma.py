@@ -1,0 +1,157 @@
+# SPDX-License-Identifier: MIT
+"""Plasma, on X11 and on Wayland."""
+import json
+import os
+import subprocess
+
+from desktop import Desktop, Window
+from root import PROJECT
+from waiting import wait_for
+from x11 import X11Desktop
+
+_SHELL = """
+export LIBGL_ALWAYS_SOFTWARE=1 KDE_FULL_SESSION=true KDE_SESSION_VERSION=5
+dbus-update-activation-environment --all
+kded5 &
+plasmashell &
+until dbus-send --session --print-reply --dest=org.kde.StatusNotifierWatcher /StatusNotifierWatcher \\
+    org.freedesktop.DBus.Properties.Get string:org.kde.StatusNotifierWatcher \\
+    string:IsStatusNotifierHostRegistered | grep true
+do sleep 0.2; done >/dev/null 2>&1
+env | grep -E '^(HOME|XDG_|DBUS|PATH|LANG|USER|LOGNAME|WAYLAND_|DISPLAY|XAUTHORITY|KDE_)' > $XDG_RUNTIME_DIR/session
+wait
+"""
+_WINDOWS = """
+const windows = workspace.clientList().filter(window => !window.minimized && !window.hidden);
+windows.sort((one, other) => one.stackingOrder - other.stackingOrder);
+callDBus("%s", "/", "org.velto.Answers", "Answer", JSON.stringify(windows.map(window => {
+    const r = window.frameGeometry;
+    return [window.caption, [r.x, r.y, r.width, r.height], window.active];
+})));
+"""
+_ASK = """
+import sys
+from gi.repository import Gio, GLib
+bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+loop = GLib.MainLoop()
+
+def answer(connection, sender, path, interface, method, parameters, invocation):
+    print(parameters.unpack()[0])
+    invocation.return_value(None)
+    loop.quit()
+
+def scripting(method, *arguments):
+    bus.call_sync("org.kde.KWin", "/Scripting", "org.kde.kwin.Scripting", method,
+                  GLib.Variant("(" + "s" * len(arguments) + ")", arguments), None, 0, 10000, None)
+
+node = Gio.DBusNodeInfo.new_for_xml('''<node><interface name="org.velto.Answers"><method name="Answer">
+    <arg type="s" direction="in"/></method></interface></node>''')
+bus.register_object("/", node.interfaces[0], answer, None, None)
+with open("/tmp/script.js", "w") as file:
+    file.write(sys.argv[1] % bus.get_unique_name())
+scripting("loadScript", "/tmp/script.js", "ask")
+scripting("start")
+GLib.timeout_add_seconds(10, sys.exit, "KWin did not answer")
+loop.run()
+scripting("unloadScript", "ask")
+"""
+
+
+class _Plasma:
+    ROOT = "kde"
+    PACKAGES = """kwin-x11 kwin-wayland plasma-workspace plasma-workspace-wayland plasma-desktop kded5 xvfb gcc libc6-dev
+        libwayland-dev libwayland-bin plasma-wayland-protocols""".split()
+
+    def prepare(self):
+        wait_for(lambda: self.window("Plasma"), what="the panel")
+
+    def windows(self):
+        return [Window(title, tuple(round(side) for side in rectangle), focused) for title, rectangle, focused
+                in json.loads(self.session.run("python3", "-c", _ASK, _WINDOWS))]
+
+    def item_place(self):
+        return 1063, 778  # the first in the tray of a panel as it comes
+
+
+class PlasmaX11(_Plasma, X11Desktop):
+    START = X11Desktop.SERVER + """
+export XDG_CURRENT_DESKTOP=KDE XDG_SESSION_TYPE=x11
+kwin_x11 &
+""" + _SHELL
+
+
+class PlasmaWayland(_Plasma, Desktop):
+    START = """
+export XDG_CURRENT_DESKTOP=KDE XDG_SESSION_TYPE=wayland LIBGL_ALWAYS_SOFTWARE=1
+export KWIN_WAYLAND_NO_PERMISSION_CHECKS=1 KWIN_SCREENSHOT_NO_PERMISSION_CHECKS=1
+cat > ~/.config/kwinrulesrc <<EOF
+[General]
+count=1
+rules=editor
+[editor]
+title=editor
+titlematch=1
+position=40,560
+positionrule=3
+EOF
+cp /usr/bin/kwin_wayland /tmp # without its capability, which namespaces do not give
+/tmp/kwin_wayland --virtual --xwayland --width 1280 --height 800 --no-lockscreen --socket wayland-0 &
+until [ -S $XDG_RUNTIME_DIR/wayland-0 ] && ls /tmp/.X11-unix/X*; do sleep 0.2; done >/dev/null 2>&1
+export WAYLAND_DISPLAY=wayland-0 DISPLAY=$(ls /tmp/.X11-unix | grep -v _ | sed 's/X/:/' | head -1)
+""" + _SHELL.replace("plasmashell &", "QT_QPA_PLATFORM=wayland plasmashell &")
+
+    _BUILD_INPUT = """
+cd /tmp
+protocol=/usr/share/plasma-wayland-protocols/fake-input.xml
+wayland-scanner client-header $protocol fake_input.h
+wayland-scanner private-code $protocol protocol.c
+cc -I. -o input "$0/plasma_input.c" protocol.c -lwayland-client
+"""
+
+    def prepare(self):
+        super().prepare()
+        self.session.run("sh", "-c", self._BUILD_INPUT, os.path.join(PROJECT, "tests", "desktops"))
+        self._input = self.session.start("/tmp/input", stdin=subprocess.PIPE)
+
+    def _send(self, *commands):
+        self._input.stdin.write("".join(command + "\n" for command in commands))
+        self._input.stdin.flush()
+
+    def click(self, x, y, button=1):
+        number = {1: 0, 2: 2, 3: 1}[button]
+        self._send(f"m {x - 1} {y}", "s 100", f"m {x} {y}", "s 200", f"d {number}", "s 80", f"u {number}")
+
+    def type(self, text):
+        for letter in text:
+            self._press(_CODES[letter])
+
+    def key(self, name):
+        self._press(_CODES[name])
+
+    def _press(self, code):
+        self._send(f"p {code}", "s 20", f"r {code}")
+
+    def picture(self, path):
+        with open(path, "wb") as file:
+            file.write(self.session.run_bytes("python3", "-c", _PICTURE))
+
+
+_CODES = {letter: start + i for start, row in ((2, "1234567890"), (16, "qwertyuiop"), (30, "asdfghjkl"), (44, "zxcvbnm"))
+          for i, letter in enumerate(row)} | {"Escape": 1, "Return": 28, "Tab": 15}
+_PICTURE = """
+import os, sys, gi
+gi.require_version("GdkPixbuf", "2.0")
+from gi.repository import GdkPixbuf, Gio, GLib
+bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+reading, writing = os.pipe()
+(said,), _ = bus.call_with_unix_fd_list_sync(
+    "org.kde.KWin", "/org/kde/KWin/ScreenShot2", "org.kde.KWin.ScreenShot2", "CaptureArea",
+    GLib.Variant("(iiuua{sv}h)", (0, 0, 1280, 800, {"include-cursor": GLib.Variant("b", True)}, 0)), None, 0, 10000,
+    Gio.UnixFDList.new_from_array([writing]), None)
+with open(reading, "rb") as file:
+    pixels = bytearray(file.read(said["stride"] * said["height"]))
+pixels[0::4], pixels[2::4] = pixels[2::4], pixels[0::4]
+picture = GdkPixbuf.Pixbuf.new_from_bytes(GLib.Bytes.new(bytes(pixels)), GdkPixbuf.Colorspace.RGB, True, 8,
+                                          said["width"], said["height"], said["stride"])
+sys.stdout.buffer.write(picture.save_to_bufferv("png", [], [])[1])
+"""
