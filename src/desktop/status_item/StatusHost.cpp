@@ -18,7 +18,6 @@ struct Known {
 
 constexpr StatusHostTraits gnome{TimeShape::label, true, true, true, true};
 constexpr StatusHostTraits indicators{TimeShape::label, false, false};
-constexpr StatusHostTraits wide{TimeShape::widePicture, false, false};
 constexpr StatusHostTraits wideOnDark{TimeShape::widePicture, true, false};
 constexpr StatusHostTraits square{TimeShape::squarePicture, false, false};
 constexpr StatusHostTraits plasma{TimeShape::squarePicture, false, false, true};
@@ -29,7 +28,7 @@ constexpr std::array knownProcesses{
     Known{"ayatana-indicator-application-service", indicators},
     Known{"indicator-application-service", indicators},
     Known{"budgie-panel", indicators},
-    Known{"notification-area-applet", wide}, // MATE's
+    Known{"notification-area-applet", indicators}, // MATE's
     Known{"waybar", wideOnDark},
     Known{"cinnamon", wideOnDark},
     Known{"xapp-sn-watcher", wideOnDark}, // Cinnamon's
@@ -47,7 +46,7 @@ constexpr std::array<std::string_view, 2> brokers{"kded5", "kded6"};
 constexpr std::array knownDesktops{
     Known{"Budgie", indicators},
     Known{"Unity", indicators},
-    Known{"MATE", wide},
+    Known{"MATE", indicators},
     Known{"X-Cinnamon", wideOnDark},
     Known{"XFCE", squareOnDark},
     Known{"LXQt", squareOnDark},

@@ -7,7 +7,8 @@ from panel_stories import PanelStories
 
 class TheMatePanel(PanelStories, unittest.TestCase):
     host = "mate"
-    questions = 2  # the name and the picture, each on its own
+    news = "XAyatanaNewLabel"
+    questions = 0
 
 
 if __name__ == "__main__":

@@ -15,7 +15,10 @@ def labels(entry):
 
 
 class PanelStories:
-    """Subclasses say which bar: `host`; and how many questions it asks about each new picture: `questions`."""
+    """Subclasses say which bar: `host`; what tells it of a new time: `news`; and how many questions it asks about
+    that: `questions`."""
+
+    news = "NewIcon"
 
     @classmethod
     def setUpClass(cls):
@@ -212,6 +215,16 @@ class PanelStories:
         wait_for(lambda: self.velto.settings.get("focusMinutes") == 50)
         self.wait_until_closed()
 
+    def test_the_time_in_the_bar_goes_with_the_timer(self):
+        def shown():
+            return self.desktop.picture().crop(*self.desktop.item_rectangle).rgb
+
+        self.desktop.move(600, 10)
+        self.velto.item.choose("Start Focus")
+        for _ in range(3):
+            before = shown()
+            wait_for(lambda: shown() != before, 5, "another time in the bar")
+
     def wait_for_silence(self):
         """Until the host has asked its last question about what was before."""
         wait_for(lambda: not messages_in(self.desktop, self.velto.item.bus_name, 1), what="silence on the bus")
@@ -223,13 +236,13 @@ class PanelStories:
         wait_for(lambda: self.velto.item.label < "24:58")
 
         with Messages(self.desktop, self.velto.item.bus_name) as messages:
-            wait_for(lambda: messages.sent.count("NewIcon") == 1)
+            wait_for(lambda: messages.sent.count(self.news) == 1)
             started = time.monotonic()
-            wait_for(lambda: messages.sent.count("NewIcon") == 6)
+            wait_for(lambda: messages.sent.count(self.news) == 6)
             seconds = time.monotonic() - started
 
-        heard = messages.sent[messages.sent.index("NewIcon"):]
-        self.assertEqual(heard[:5 * (1 + self.questions)], 5 * ["NewIcon", *self.questions * ["answer"]])
+        heard = messages.sent[messages.sent.index(self.news):]
+        self.assertEqual(heard[:5 * (1 + self.questions)], 5 * [self.news, *self.questions * ["answer"]])
         self.assertAlmostEqual(seconds, 5, delta=0.5)
 
     def test_nothing_is_said_while_the_timer_is_idle_or_paused(self):
