@@ -25,8 +25,8 @@ constexpr auto goodFor = 60s;
 
 bool mayChangeABar(xcb_atom_t property)
 {
-    static const std::array properties{x11::atom("_XROOTPMAP_ID"), x11::atom("_NET_CLIENT_LIST"),
-        x11::atom("_NET_WORKAREA"), x11::atom("_NET_CURRENT_DESKTOP"), x11::atom("_XSETTINGS_SETTINGS")};
+    static const std::array properties{x11::atom("_XROOTPMAP_ID"), x11::atom("_NET_WORKAREA"),
+        x11::atom("_NET_CURRENT_DESKTOP"), x11::atom("_XSETTINGS_SETTINGS")};
     return std::ranges::count(properties, property) > 0;
 }
 
@@ -109,9 +109,12 @@ void BarColor::refresh()
 
 bool BarColor::nativeEventFilter(const QByteArray& /*eventType*/, void* message, qintptr* /*result*/)
 {
-    const auto* event = static_cast<const xcb_generic_event_t*>(message);
-    if ((event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY
-        && mayChangeABar(static_cast<const xcb_property_notify_event_t*>(message)->atom))
+    if ((static_cast<const xcb_generic_event_t*>(message)->response_type & 0x7f) != XCB_PROPERTY_NOTIFY)
+        return false;
+    static const auto windows = x11::atom("_NET_CLIENT_LIST");
+    const auto property = static_cast<const xcb_property_notify_event_t*>(message)->atom;
+    // Most windows that come and go are no bars.
+    if (mayChangeABar(property) || (property == windows && bars() != m_bars))
         lookSoon();
     return false;
 }
@@ -157,14 +160,14 @@ std::vector<BarColor::Bar> BarColor::bars()
 void BarColor::findPlace()
 {
     m_place.reset();
-    auto all = bars();
-    for (const auto& bar : all)
+    m_bars = bars();
+    for (const auto& bar : m_bars)
         if (m_item && bar.area.contains(m_item->center()))
             m_place = {around(*m_item, bar.area), bar.window};
-    if (m_place || all.empty())
+    if (m_place || m_bars.empty())
         return;
     m_place = *std::ranges::max_element(
-        all, {}, [](const Bar& bar) { return std::max(bar.area.width(), bar.area.height()); });
+        m_bars, {}, [](const Bar& bar) { return std::max(bar.area.width(), bar.area.height()); });
     m_place->area = endOf(m_place->area);
 }
 

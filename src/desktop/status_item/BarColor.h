@@ -47,6 +47,7 @@ private:
     struct Bar {
         QRect area; ///< In points.
         xcb_window_t window = XCB_WINDOW_NONE;
+        bool operator==(const Bar&) const = default;
     };
 
     [[nodiscard]] static std::vector<Bar> bars();
@@ -55,6 +56,7 @@ private:
     void lookAfterChange();
 
     std::optional<QRect> m_item;
+    std::vector<Bar> m_bars;
     std::optional<Bar> m_place; ///< The part of a bar to look at.
     std::optional<QColor> m_color;
     QFileSystemWatcher m_plasmaSettings;
