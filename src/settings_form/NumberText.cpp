@@ -18,15 +18,12 @@ std::u32string decimal(std::int64_t number)
     return {text.begin(), text.end()};
 }
 
-/// ASCII digits behind an optional sign; absent for anything else and for what does not fit.
+/// Absent for anything but ASCII digits and for what does not fit.
 std::optional<std::int64_t> parse(const std::u32string& text)
 {
     if (!std::ranges::all_of(text, [](char32_t c) { return c < 0x80; }))
         return std::nullopt;
-    std::string ascii(text.begin(), text.end());
-    // from_chars knows no plus.
-    if (ascii.size() > 1 && ascii[0] == '+' && ascii[1] != '-')
-        ascii.erase(0, 1);
+    const std::string ascii(text.begin(), text.end());
     std::int64_t number = 0;
     const auto* end = ascii.data() + ascii.size();
     const auto [rest, error] = std::from_chars(ascii.data(), end, number);

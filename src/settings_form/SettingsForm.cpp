@@ -10,6 +10,25 @@
 
 namespace velto {
 
+namespace {
+
+struct PhaseMusic {
+    bool isOn;
+    MusicPreset preset;
+    std::string url;
+};
+
+/// `source` is the settings or the form.
+template <class Source>
+PhaseMusic musicOf(const Source& source, PomodoroPhase phase)
+{
+    if (phase == PomodoroPhase::focus)
+        return {source.enableFocusMusic(), source.focusMusicPreset(), source.focusCustomURL()};
+    return {source.enableBreakMusic(), source.breakMusicPreset(), source.breakCustomURL()};
+}
+
+} // namespace
+
 std::string percentText(float volume)
 {
     const double percent = static_cast<double>(volume) * 100;
@@ -61,18 +80,10 @@ void SettingsForm::preview(SoundOption sound) const
 void SettingsForm::apply()
 {
     m_originalMusicVolume.reset();
-    const auto sourceChanged
-        = [](MusicPreset oldPreset, MusicPreset newPreset, const std::string& oldURL, const std::string& newURL) {
-              return oldPreset != newPreset || (newPreset == MusicPreset::custom && oldURL != newURL);
-          };
     const bool focusChanged = m_settings.focusMinutes() != focusMinutes();
     const bool breakChanged = m_settings.breakMinutes() != breakMinutes();
-    const bool focusSourceChanged = sourceChanged(
-        m_settings.focusMusicPreset(), focusMusicPreset(), m_settings.focusCustomURL(), focusCustomURL());
-    const bool breakSourceChanged = sourceChanged(
-        m_settings.breakMusicPreset(), breakMusicPreset(), m_settings.breakCustomURL(), breakCustomURL());
-    const bool focusMusicToggled = m_settings.enableFocusMusic() != enableFocusMusic();
-    const bool breakMusicToggled = m_settings.enableBreakMusic() != enableBreakMusic();
+    const auto phase = m_timer.phase();
+    const auto before = musicOf(m_settings, phase);
 
     m_settings.focusMinutes.set(focusMinutes());
     m_settings.breakMinutes.set(breakMinutes());
@@ -92,14 +103,13 @@ void SettingsForm::apply()
 
     if (!m_timer.isRunning())
         return;
-    const bool isFocus = m_timer.phase() == PomodoroPhase::focus;
-    const bool isEnabled = isFocus ? enableFocusMusic() : enableBreakMusic();
-    const bool wasToggled = isFocus ? focusMusicToggled : breakMusicToggled;
-    const bool hasOtherSource = isFocus ? focusSourceChanged : breakSourceChanged;
-    if (!wasToggled && !(hasOtherSource && isEnabled))
+    const auto now = musicOf(*this, phase);
+    const bool hasOtherSource
+        = now.preset != before.preset || (now.preset == MusicPreset::custom && now.url != before.url);
+    if (now.isOn == before.isOn && !(now.isOn && hasOtherSource))
         return;
     m_timer.musicPlayer().stop();
-    if (isEnabled)
+    if (now.isOn)
         m_timer.startMusicForCurrentPhase();
 }
 

@@ -100,6 +100,14 @@ TEST_F(StatusMenuTest, AsBuiltOnlyTheTwoDurationsAreChecked)
         (Lines{"Presets / 25m focus / 5m break", "Focus Music / None", "Break Music / None", "Current Phase / Focus"}));
 }
 
+TEST_F(StatusMenuTest, ChoicesCanHaveAMarkAndNothingElse)
+{
+    forEachItem(*controller().statusMenu().menu(), [](const MenuItem& item) {
+        EXPECT_EQ(item.isCheckable, item.representedObject.has_value() || item.title == "Auto-Transition")
+            << item.title;
+    });
+}
+
 TEST_F(StatusMenuTest, HasTheEntriesOfEachMenuInNumber)
 {
     const auto& top = *controller().statusMenu().menu();
