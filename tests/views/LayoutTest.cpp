@@ -74,7 +74,9 @@ protected:
         const auto drawn = drawnTexts(view);
         QString everything;
         for (std::size_t i = 0; i < drawn.size(); ++i) {
-            const auto& [text, ink, room] = drawn[i];
+            const auto& text = drawn[i].text;
+            const auto& ink = drawn[i].ink;
+            const auto& room = drawn[i].room;
             everything += text;
             if (ink.isEmpty())
                 continue;

@@ -23,7 +23,8 @@ public:
         QRectF room(systemClip().boundingRect());
         if (painter()->hasClipping())
             room &= toDevice.mapRect(painter()->clipBoundingRect());
-        texts.push_back({item.text(), toDevice.mapRect(outline.boundingRect()), room});
+        texts.push_back(
+            {item.text(), toDevice.mapRect(outline.boundingRect()), room, item.font(), painter()->pen().color()});
     }
 
     bool begin(QPaintDevice*) override { return true; }

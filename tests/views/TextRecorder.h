@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QColor>
+#include <QFont>
 #include <QRectF>
 #include <QString>
 
@@ -15,6 +17,8 @@ struct DrawnText {
     QString text;
     QRectF ink;  ///< What its glyphs cover.
     QRectF room; ///< Where it may be drawn: beyond, it is clipped.
+    QFont font;
+    QColor color;
 };
 
 /// All text that `view` draws, whole or not. Text that is drawn as shapes is not among it.
