@@ -71,7 +71,7 @@ void AboutView::showEvent(QShowEvent* event)
 
 void AboutView::hideEvent(QHideEvent* event)
 {
-    m_refreshes.reset();
+    m_refreshes.cancel();
     QWidget::hideEvent(event);
 }
 

@@ -5,7 +5,6 @@
 
 #include <QWidget>
 
-#include <optional>
 #include <string>
 
 class QBoxLayout;
@@ -57,7 +56,7 @@ private:
     TextLabel* m_title;
     TextLabel* m_version;
     TextLabel* m_rights;
-    std::optional<Subscription> m_refreshes;
+    Subscription m_refreshes;
 };
 
 } // namespace velto

@@ -72,9 +72,7 @@ void TimerPanelController::hide()
 void TimerPanelController::positionPanel(const StatusItemButton* button)
 {
     const auto buttonFrame = button ? button->frame() : std::nullopt;
-    auto screen = buttonFrame ? m_screens.screenOf(*buttonFrame) : std::nullopt;
-    if (!screen)
-        screen = m_screens.mainScreen();
+    const auto screen = m_screens.screenFor(buttonFrame);
     if (!screen)
         return;
 
@@ -87,9 +85,7 @@ void TimerPanelController::keepOnScreen()
     if (!m_panel || !m_panel->isVisible())
         return;
     const auto frame = m_panel->currentFrame();
-    auto screen = m_screens.screenOf(frame);
-    if (!screen)
-        screen = m_screens.mainScreen();
+    const auto screen = m_screens.screenFor(frame);
     if (!screen)
         return;
     if (const auto inside = pulledInside(frame, screen->visibleFrame); inside != frame)

@@ -63,25 +63,14 @@ inline void add(QBoxLayout& box, Spacer, Qt::Alignment)
     box.addStretch(1);
 }
 
-inline void add(QBoxLayout& box, Filling<QWidget> filling, Qt::Alignment)
-{
-    const bool isColumn = box.direction() == QBoxLayout::TopToBottom;
-    box.addWidget(filling.child, isColumn ? 0 : 1);
-}
-
-inline void add(QBoxLayout& box, Filling<QLayout> filling, Qt::Alignment)
-{
-    const bool isColumn = box.direction() == QBoxLayout::TopToBottom;
-    box.addLayout(filling.child, isColumn ? 0 : 1);
-}
-
 template <class Child>
-void add(QBoxLayout& box, Filling<Child> filling, Qt::Alignment alignment)
+void add(QBoxLayout& box, Filling<Child> filling, Qt::Alignment)
 {
+    const int share = box.direction() == QBoxLayout::TopToBottom ? 0 : 1;
     if constexpr (std::is_base_of_v<QLayout, Child>)
-        add(box, Filling<QLayout>{filling.child}, alignment);
+        box.addLayout(filling.child, share);
     else
-        add(box, Filling<QWidget>{filling.child}, alignment);
+        box.addWidget(filling.child, share);
 }
 
 inline void addLayer(QGridLayout& grid, QWidget* child, Qt::Alignment alignment)

@@ -27,14 +27,4 @@ QRectF rectToQt(const Rect& rect)
     return {rect.x, originY() - rect.maxY(), rect.width, rect.height};
 }
 
-Point pointFromQt(QPointF point)
-{
-    return {point.x(), originY() - point.y()};
-}
-
-QPointF pointToQt(Point point)
-{
-    return {point.x, originY() - point.y};
-}
-
 } // namespace velto

@@ -3,7 +3,6 @@
 
 #include "platform/Geometry.h"
 
-#include <QPointF>
 #include <QRectF>
 
 namespace velto {
@@ -13,7 +12,5 @@ namespace velto {
 
 [[nodiscard]] Rect rectFromQt(const QRectF& rect);
 [[nodiscard]] QRectF rectToQt(const Rect& rect);
-[[nodiscard]] Point pointFromQt(QPointF point);
-[[nodiscard]] QPointF pointToQt(Point point);
 
 } // namespace velto

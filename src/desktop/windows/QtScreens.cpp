@@ -8,8 +8,6 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-#include <cstdlib>
-#include <memory>
 #include <utility>
 #include <vector>
 
@@ -31,22 +29,14 @@ struct Struts {
     std::vector<Strut> all;
 };
 
-template <class Reply>
-using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
-
 Struts currentStruts()
 {
-    xcb_connection_t* connection = x11::connection();
     const xcb_window_t root = x11::rootWindow();
-    const auto geometryOf = [connection](xcb_window_t window) {
-        const auto cookie = xcb_get_geometry(connection, window);
-        return Owned<xcb_get_geometry_reply_t>{xcb_get_geometry_reply(connection, cookie, nullptr), &std::free};
-    };
-    const auto whole = geometryOf(root);
+    const auto whole = x11::geometry(root);
     if (!whole)
         return {};
 
-    Struts struts{{whole->width, whole->height}, {}};
+    Struts struts{whole->size(), {}};
     const xcb_atom_t partial = x11::atom("_NET_WM_STRUT_PARTIAL");
     const xcb_atom_t simple = x11::atom("_NET_WM_STRUT");
     for (const xcb_window_t window : x11::property(root, x11::atom("_NET_CLIENT_LIST"))) {
@@ -55,15 +45,9 @@ Struts currentStruts()
             widths = x11::property(window, simple);
         if (widths.size() < 4)
             continue;
-        const auto geometry = geometryOf(window);
-        const auto cookie = xcb_translate_coordinates(connection, window, root, 0, 0);
-        const Owned<xcb_translate_coordinates_reply_t> position{
-            xcb_translate_coordinates_reply(connection, cookie, nullptr), &std::free};
-        if (!geometry || !position)
-            continue;
-        struts.all.push_back({{position->dst_x + geometry->width / 2, position->dst_y + geometry->height / 2},
-            static_cast<int>(widths[0]), static_cast<int>(widths[1]), static_cast<int>(widths[2]),
-            static_cast<int>(widths[3])});
+        if (const auto dock = x11::geometry(window))
+            struts.all.push_back({dock->center(), static_cast<int>(widths[0]), static_cast<int>(widths[1]),
+                static_cast<int>(widths[2]), static_cast<int>(widths[3])});
     }
     return struts;
 }

@@ -58,9 +58,7 @@ bool SheetWindow::eventFilter(QObject* watched, QEvent* event)
 void SheetWindow::place()
 {
     const auto panel = rectFromQt(m_panel.geometry());
-    auto screen = m_screens.screenOf(panel);
-    if (!screen)
-        screen = m_screens.mainScreen();
+    const auto screen = m_screens.screenFor(panel);
     if (!screen)
         return;
     const Size wanted{static_cast<double>(m_wantedSize.width()), static_cast<double>(m_wantedSize.height())};

@@ -16,12 +16,6 @@ namespace velto {
 
 namespace {
 
-/// In a session of Wayland, nobody tells an X11 program of presses in the windows of others.
-bool seesPressesElsewhere()
-{
-    return !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-}
-
 bool takesText(const QWidget* widget)
 {
     return widget && widget->testAttribute(Qt::WA_InputMethodEnabled) && widget->focusPolicy() != Qt::NoFocus;
@@ -39,12 +33,12 @@ bool isWithin(const QWidget* window, const QWidget* widget)
 
 Focus cardFocus()
 {
-    return seesPressesElsewhere() ? Focus::leftAlone : Focus::taken;
+    return x11::seesTheScreen() ? Focus::leftAlone : Focus::taken;
 }
 
 Focus sheetFocus()
 {
-    return seesPressesElsewhere() ? Focus::whenUsed : Focus::taken;
+    return x11::seesTheScreen() ? Focus::whenUsed : Focus::taken;
 }
 
 WindowKeyboard::WindowKeyboard(QWidget& window, Focus focus, WindowKeyboard* below, std::function<void()> dismiss) :
