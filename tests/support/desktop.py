@@ -141,6 +141,12 @@ class Velto:
                     return button
         raise LookupError("no strip")
 
+    def has_strip(self):
+        try:
+            return bool(self.strip)
+        except LookupError:
+            return False
+
     def press(self, name):
         """Presses a button of the card, without the mouse."""
         wait_for(lambda: self.card.find("push button", name), what=f"a button {name!r}").press()

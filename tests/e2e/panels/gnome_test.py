@@ -38,12 +38,6 @@ class TheBarOfGnome(unittest.TestCase):
                 found.append(word)
         return found
 
-    def has_strip(self):
-        try:
-            return bool(self.velto.strip)
-        except LookupError:
-            return False
-
     def test_it_stands_in_the_bar_right_of_the_clock_and_clear_of_the_menus(self):
         x, y, width, height = self.velto.strip.rectangle
         self.assertEqual((y, height), (0, BAR))
@@ -74,12 +68,12 @@ class TheBarOfGnome(unittest.TestCase):
     def test_it_goes_while_the_bar_is_hidden_under_a_window_that_fills_the_screen(self):
         dock, ordinary = wait_for(lambda: self.unseen_windows("DOCK") + self.unseen_windows("UTILITY"))
         self.set_root("_NET_CLIENT_LIST_STACKING", "32x", f"{ordinary},{dock}")
-        holds(self.has_strip, 1)
+        holds(self.velto.has_strip, 1)
 
         self.set_root("_NET_CLIENT_LIST_STACKING", "32x", f"{dock},{ordinary}")
-        wait_for(lambda: not self.has_strip(), what="the time gone")
+        wait_for(lambda: not self.velto.has_strip(), what="the time gone")
         self.set_root("_NET_CLIENT_LIST_STACKING", "32x", f"{ordinary},{dock}")
-        wait_for(self.has_strip, what="the time again")
+        wait_for(self.velto.has_strip, what="the time again")
 
 
 if __name__ == "__main__":

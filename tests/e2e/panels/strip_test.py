@@ -109,16 +109,10 @@ class TheStrip(unittest.TestCase):
         self.desktop.open_window("other")
         holds(lambda: self.velto.strip, 1)
         self.desktop.ask("wmctrl", "-r", "other", "-b", "add,fullscreen")
-        wait_for(lambda: not self.has_strip(), what="the strip gone from a filled screen")
+        wait_for(lambda: not self.velto.has_strip(), what="the strip gone from a filled screen")
 
         self.desktop.ask("wmctrl", "-r", "other", "-b", "remove,fullscreen")
-        wait_for(self.has_strip, what="the strip again")
-
-    def has_strip(self):
-        try:
-            return bool(self.velto.strip)
-        except LookupError:
-            return False
+        wait_for(self.velto.has_strip, what="the strip again")
 
     def test_a_preset_is_chosen_with_the_mouse_and_the_card_stays(self):
         self.click(button=3)
