@@ -17,7 +17,7 @@ class RunLoop;
 class TextLabel;
 class Workspace;
 
-/// What whoever distributes the program says of himself.
+/// Set by whoever distributes the program.
 struct AboutDetails {
     std::string rightsHolder;
     std::string supportLink;
@@ -25,7 +25,7 @@ struct AboutDetails {
     std::string donationLink;
 };
 
-/// What the program is, which version, whose, and where to find more.
+/// What the program is, its version and owner, and where to find more.
 class AboutView final : public QWidget {
     Q_OBJECT
 

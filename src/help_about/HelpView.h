@@ -7,8 +7,8 @@ class QBoxLayout;
 
 namespace velto {
 
-/// The usage notes on one page. Where it is higher than its place, its sections move together; if that does not
-/// help, it scrolls.
+/// The usage notes on one page. Where there is too little room, its sections move closer together; if that is not
+/// enough, it scrolls.
 class HelpView final : public QScrollArea {
     Q_OBJECT
 

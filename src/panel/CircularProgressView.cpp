@@ -106,7 +106,7 @@ QAccessibleInterface* CircularProgressView::makeAccessible()
 void CircularProgressView::paintEvent(QPaintEvent* event)
 {
     const QRectF circle = contentsRect();
-    // Nothing of it is inside, where digits move.
+    // The inside, where digits move, is empty.
     if (std::ranges::all_of(event->region(), [&](const QRectF& part) { return isInside(part); }))
         return;
     const auto color = drawnColor();

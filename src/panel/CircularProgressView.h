@@ -20,10 +20,10 @@ public:
 
     explicit CircularProgressView(int diameter);
 
-    /// Fraction elapsed. More than 1 is a full circle, 0 and less is no arc at all.
+    /// Fraction elapsed. 1 or more is a full circle, 0 or less is no arc.
     void setProgress(double progress);
     [[nodiscard]] double progress() const { return m_progress; }
-    /// The fraction that is drawn just now, on its way to `progress()`.
+    /// The fraction drawn at this moment, on its way to `progress()`.
     [[nodiscard]] double drawnProgress() const;
 
     void setColor(ColorName color);
@@ -44,7 +44,7 @@ private:
     QPainterPath m_track;
     double m_progress = 0;
     double m_from = 0;    ///< Where the arc's motion began.
-    double m_redrawn = 0; ///< What the last request to paint was for.
+    double m_redrawn = 0; ///< When painting was last requested.
     ColorName m_color = ColorName::label;
     QColor m_fromColor;
     Motion m_arcMotion{QEasingCurve::Linear, this};

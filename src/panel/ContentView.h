@@ -23,7 +23,7 @@ class RollingTime;
 class TextLabel;
 
 /// Makes the settings form, hidden, as a window that attaches itself to that of `presenter`. The form
-/// calls `dismiss` when it is done with, also from within one of its own event handlers.
+/// calls `dismiss` when it is done, also from within one of its own event handlers.
 using SettingsSheetFactory = std::function<std::unique_ptr<QWidget>(
     AppSettings& settings, PomodoroTimer& timer, QWidget& presenter, std::function<void()> dismiss)>;
 

@@ -10,7 +10,7 @@ namespace velto {
 
 /// The card in the panel: the timer view on a rounded background, and nothing outside of it.
 ///
-/// Its window has to let what is not painted show through, or to be masked.
+/// Its window must be transparent where nothing is painted, or masked.
 class PanelContainerView : public QWidget {
     Q_OBJECT
 

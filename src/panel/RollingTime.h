@@ -13,8 +13,8 @@
 
 namespace velto {
 
-/// The remaining time, each digit in a cell of fixed width; digits that change roll upwards. What is seen of it is
-/// centred, whichever digits these are.
+/// The remaining time, each digit in a cell of fixed width; digits that change roll upwards. The visible ink is
+/// centred, whatever the digits.
 ///
 /// Assistive technology reads it, but is not told of the ticks.
 class RollingTime : public AnimatedView {
@@ -29,14 +29,14 @@ public:
         bool operator==(const Glyph&) const = default;
     };
 
-    /// Longer times than fit into `width` are drawn smaller.
+    /// A time too long for `width` is drawn smaller.
     explicit RollingTime(int width);
 
     void setTime(const QString& text, double fontSize);
     [[nodiscard]] QString spokenText() const override { return m_text; }
     [[nodiscard]] double fontSize() const { return m_fontSize; }
 
-    /// All that is drawn just now.
+    /// Everything drawn at this moment.
     [[nodiscard]] std::vector<Glyph> glyphs() const;
     /// The sum of all cells, before anything is drawn smaller.
     [[nodiscard]] double textWidth() const { return m_glyphs.width(m_text); }

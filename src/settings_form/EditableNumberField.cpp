@@ -37,7 +37,7 @@ void EditableNumberField::endEditing()
 void EditableNumberField::keyPressEvent(QKeyEvent* event)
 {
     TextField::keyPressEvent(event);
-    // Unless who was told of it has taken the focus.
+    // Unless a listener has moved the focus.
     if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && hasFocus())
         clearFocus();
 }

@@ -10,7 +10,7 @@ namespace velto {
 
 /// What a number field shows, and when what was typed becomes the number.
 ///
-/// While typing, everything that is no numeric character is dropped; at the end of editing a whole
+/// While typing, characters that are not numeric are dropped; at the end of editing a whole
 /// number of 1 or more is taken, as long as that many minutes can be counted in seconds, and
 /// anything else gives way to the value again. A new value from elsewhere replaces what was typed. Main thread only.
 class NumberText {

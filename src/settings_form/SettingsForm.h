@@ -14,7 +14,7 @@ namespace velto {
 class AppSettings;
 class PomodoroTimer;
 
-/// A loudness as people read it: "25%" for 0.25. What is less than a whole percent is cut off.
+/// A loudness as people read it: "25%" for 0.25. Fractions of a percent are cut off.
 [[nodiscard]] std::string percentText(float volume);
 
 /// The working copy behind the settings form: taken once, edited freely, then applied or cancelled.

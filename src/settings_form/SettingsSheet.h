@@ -20,7 +20,7 @@ class ToggleSwitch;
 
 /// The settings form on a card: every setting on one page that scrolls, "Cancel" and "Apply" below it.
 ///
-/// Escape is Cancel, as is to close it; Return outside of a field is Apply, a press beside the controls ends editing.
+/// Escape and closing it are Cancel, Return outside a field is Apply; a press beside the controls ends editing.
 class SettingsSheet : public QWidget {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ public:
     SettingsSheet(AppSettings& settings, PomodoroTimer& timer, RunLoop& runLoop, std::function<void()> dismiss);
     ~SettingsSheet() override;
 
-    /// Less high where there is less room; the page then scrolls further.
+    /// Lower where there is less room; the page then scrolls further.
     static constexpr QSize preferredSize{500, 650};
 
     [[nodiscard]] QSize sizeHint() const override { return preferredSize; }

@@ -6,10 +6,10 @@
 
 namespace velto {
 
-/// Runs work that may hang on something outside of the program, each on a thread of its own.
+/// Runs work that may block on something outside the program, each piece on its own thread.
 ///
-/// The work must own all it touches, and be told to end before this goes. Going away waits up to
-/// half a second for it; a thread that still hangs is left behind.
+/// The work must own everything it touches, and must be told to end before this is destroyed. The destructor waits up
+/// to half a second for it; a thread that still blocks is left behind.
 class BackgroundThreads {
 public:
     BackgroundThreads();

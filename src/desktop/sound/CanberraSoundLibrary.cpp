@@ -48,7 +48,7 @@ int start(ca_context* context, const std::filesystem::path& file)
 
 } // namespace
 
-/// Hands sounds to the server, one after the other, on whatever thread `run()` is called.
+/// Hands sounds to the server, one after the other, on the thread that calls `run()`.
 class CanberraSoundLibrary::Player {
 public:
     void play(std::filesystem::path file)
@@ -70,7 +70,7 @@ public:
     {
         Context context;
         while (const auto file = next()) {
-            // A server that went away is noticed only by trying, so the first failure is no verdict.
+            // Only trying shows that a server has gone, so the first failure is not final.
             for (int attempt = 0; attempt < 2; ++attempt) {
                 if (!context)
                     context = openContext();

@@ -15,11 +15,11 @@ namespace velto {
 /// The alert sounds of a folder, one "<name>.wav" each, played through the desktop's sound server
 /// in the role of events.
 ///
-/// The server is not spoken to before the first sound, and then only from a thread of its own. A server that hangs
-/// gets what was asked for when it goes on, each sound once; without a server a sound is dropped.
+/// Talks to the server from the first sound on, and only from its own thread. A server that hangs plays what it missed
+/// when it recovers, each sound once; without a server a sound is dropped.
 class CanberraSoundLibrary final : public SoundLibrary {
 public:
-    /// Where the program's own sounds stand, seen from the folder of its executable.
+    /// The folder of the program's own sounds, relative to that of its executable.
     [[nodiscard]] static std::filesystem::path folderOf(const std::filesystem::path& executableFolder);
 
     explicit CanberraSoundLibrary(std::filesystem::path folder);

@@ -69,7 +69,7 @@ void ProcessStreamPlayer::open()
 {
     m_opened = steady_clock::now();
     const auto program = QString::fromStdString(m_program);
-    // QProcess would leave a pipe open each time it tries.
+    // QProcess would leak a pipe with each attempt.
     if (!QFileInfo(program).isExecutable()) {
         qCDebug(audioLog) << "no" << program;
         onEnd();
@@ -86,7 +86,7 @@ void ProcessStreamPlayer::open()
         if (state == QProcess::NotRunning)
             onEnd();
     });
-    // May end at once.
+    // It may end at once.
     m_process->start();
     if (m_process)
         m_process->write(m_url.toEncoded() + '\n' + QByteArray::number(m_volume) + '\n');

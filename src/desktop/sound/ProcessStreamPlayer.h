@@ -17,10 +17,10 @@ namespace velto {
 
 class RunLoop;
 
-/// Plays a web stream by a program of its own, so that nothing that comes from the web is looked at in this one.
+/// Plays a web stream in a separate program, so that this one never touches data from the web.
 ///
-/// A run of that program is one attempt: it ends when the stream does, and for as long as this plays another one
-/// follows. It is killed to stop it, which takes no time and leaves nothing.
+/// A run of that program is one attempt: it ends when the stream does, and another one follows for as long as this
+/// plays. To stop it is to kill it, which takes no time and leaves nothing behind.
 class ProcessStreamPlayer final : public StreamPlayer {
 public:
     /// `program` plays one stream, see stream/main.cpp. `runLoop` must outlive this.
@@ -28,12 +28,12 @@ public:
     ~ProcessStreamPlayer() override;
 
     void setVolume(float volume) override;
-    /// A live stream is never resumed: each call opens it anew.
+    /// A live stream is never resumed: each call opens it again.
     void play() override;
     void pause() override;
 
 private:
-    /// Kills the process and lets go of it, without waiting for its end.
+    /// Kills the process without waiting for its end.
     struct Killer {
         void operator()(QProcess* process) const;
     };

@@ -9,13 +9,13 @@ namespace velto {
 
 class RunLoop;
 
-/// Makes players that leave the playing to another program. Must outlive them.
+/// Makes players that each run a separate program. Must outlive them.
 class ProcessStreamPlayerFactory final : public StreamPlayerFactory {
 public:
-    /// Where that program stands, seen from the folder of this one.
+    /// That program, relative to the folder of this one.
     [[nodiscard]] static std::filesystem::path programOf(const std::filesystem::path& executableFolder);
 
-    /// `runLoop` must outlive this. Without the `program` all streams are silent.
+    /// `runLoop` must outlive this. Without `program`, all streams are silent.
     ProcessStreamPlayerFactory(std::filesystem::path program, RunLoop& runLoop);
 
     [[nodiscard]] bool accepts(const std::string& url) const override;

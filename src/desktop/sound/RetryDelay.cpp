@@ -12,7 +12,7 @@ namespace {
 
 constexpr Seconds shortest = 1s;
 constexpr Seconds longest = 30s;
-/// An attempt that lasts for so long has sounded; silence is given up earlier.
+/// An attempt this long has played something: silence is given up earlier.
 constexpr auto steady = 15s;
 
 } // namespace

@@ -6,23 +6,22 @@
 
 namespace velto {
 
-/// How long a stream that ended is left alone before the next attempt to play it: one second after the first, twice
-/// as long after each one more that fails, half a minute at most. A little of it is left to chance, so that the
-/// listeners of a station that was down do not all come back at once.
+/// How long to wait before a stream that has ended is tried again: one second at first, twice as long after each
+/// further failure, half a minute at most. Slightly random, so that the listeners of a station that was down do not all
+/// come back at once.
 class RetryDelay {
 public:
-    /// `seed` is where the chance comes from.
     explicit RetryDelay(std::minstd_rand::result_type seed) : m_random(seed) { }
 
-    /// After an attempt that lasted for so long. One that went well for a while is the first again.
+    /// After an attempt that lasted that long. After a long one, the wait is short again.
     [[nodiscard]] std::chrono::milliseconds after(std::chrono::milliseconds attempt);
 
-    /// The next attempt that fails is the first.
+    /// The next failure counts as the first.
     void reset();
 
 private:
     std::minstd_rand m_random;
-    std::chrono::duration<double> m_delay = std::chrono::seconds(1); ///< After the next failure, chance apart.
+    std::chrono::duration<double> m_delay = std::chrono::seconds(1); ///< After the next failure, before randomness.
 };
 
 } // namespace velto

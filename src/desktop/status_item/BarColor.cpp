@@ -35,14 +35,14 @@ bool isHorizontal(const QRect& bar)
     return bar.width() >= bar.height();
 }
 
-/// The neighbourhood of `item` in `bar`, wide enough for the item's own digits not to count.
+/// The neighbourhood of `item` in `bar`, wide enough that the item's own digits do not count.
 QRect around(const QRect& item, const QRect& bar)
 {
     const int reach = 3 * std::min(bar.width(), bar.height());
     return bar & (isHorizontal(bar) ? item.adjusted(-reach, 0, reach, 0) : item.adjusted(0, -reach, 0, reach));
 }
 
-/// Where bars have their items, unless somebody has arranged them otherwise.
+/// Where bars usually have their items.
 QRect endOf(const QRect& bar)
 {
     QRect end = bar;
@@ -82,7 +82,7 @@ BarColor::BarColor()
     connect(&m_settle, &QTimer::timeout, this, &BarColor::lookAfterChange);
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &BarColor::lookSoon);
     qApp->installNativeEventFilter(this);
-    // Plasma's shell finds its theme changed in a file, and nobody else is told.
+    // Plasma's shell reads its theme from a file; nothing else announces a change.
     if (qgetenv("XDG_CURRENT_DESKTOP").split(':').contains("KDE")) {
         m_plasmaSettings.addPath(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
         connect(&m_plasmaSettings, &QFileSystemWatcher::directoryChanged, this, &BarColor::lookSoon);
@@ -127,7 +127,7 @@ void BarColor::lookSoon()
     m_settle.start(settlingTimes.front());
 }
 
-/// Some bars are drawn anew at once, some fade or wait for their wallpaper.
+/// Some bars are redrawn at once; others fade, or wait for their wallpaper.
 void BarColor::lookAfterChange()
 {
     findPlace();
@@ -146,7 +146,7 @@ std::vector<BarColor::Bar> BarColor::bars()
     if (!bars.empty())
         return bars;
 
-    // Some desktops draw their bars without a window, on an edge that is kept free of them.
+    // Some desktops draw their bars without a window, on an edge that is kept free of windows.
     for (const auto* screen : QGuiApplication::screens()) {
         const QRect all = screen->geometry();
         const QRect usable = screen->availableGeometry();
@@ -178,7 +178,7 @@ void BarColor::look()
     if (m_place) {
         auto* screen = screenAt(m_place->area.center());
         const auto visible = m_place->area & screen->geometry();
-        // What covers a bar for a while says nothing about it.
+        // A window that covers the bar says nothing about it.
         const bool isCovered = m_place->window != XCB_WINDOW_NONE
             && x11::topLevelAt(toPixels(visible, *screen).center()) != x11::outermost(m_place->window);
         if (visible.isEmpty() || isCovered)

@@ -16,20 +16,20 @@
 
 namespace velto {
 
-/// The colour of the panel bar behind the status item, as it is seen on the X screen.
+/// The colour of the panel bar behind the status item, as seen on the X screen.
 ///
-/// Looks when something on the desktop changes that may change the bar, such as a theme, a wallpaper or a dock, and
-/// when it is asked to. Does nothing while nothing changes. Main thread only.
+/// Looks again when asked to, and when something changes that may change the bar, such as a theme, a wallpaper or a
+/// dock. Idle while nothing changes. Main thread only.
 class BarColor final : public QObject, public QAbstractNativeEventFilter {
     Q_OBJECT
 
 public:
     BarColor();
 
-    /// Absent where no bar can be seen.
+    /// Absent if no bar can be seen.
     [[nodiscard]] const std::optional<QColor>& color() const { return m_color; }
 
-    /// Where the item stands, in points; without it the end of the longest bar counts.
+    /// Where the item stands, in points. Until this is called, the end of the longest bar counts.
     void setItem(const QRect& item);
     /// Looks again if the last look was a while ago. Cheap.
     void refresh();
@@ -37,7 +37,7 @@ public:
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
 
 public slots:
-    /// Looks as soon as things have settled.
+    /// Looks again once things have settled.
     void lookSoon();
 
 signals:

@@ -55,7 +55,7 @@ void ClickGesture::press(const Press& press, std::function<void()> hide)
     m_hasHidden = false;
 
     if (m_menuIsOpen) {
-        // A press beside it closes it; where menus are no windows, nobody may tell.
+        // A press beside the menu closes it; where menus are not windows, nothing may report that.
         m_menuIsOpen = press.target == Press::Target::menu;
     } else if (press.opensMenus && press.target == Press::Target::bar) {
         m_waitingHide = std::move(hide);

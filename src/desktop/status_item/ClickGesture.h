@@ -18,7 +18,7 @@ struct Press {
 /// Tells which presses outside the program hide the panel, and which clicks on the status item belong
 /// to a press that has just done so.
 ///
-/// Presses and clicks come by different ways and in any order. They are paired by press: the press that
+/// Presses and clicks arrive by different routes and in any order. They are paired by press: the press that
 /// hid the panel is remembered until the next one, or until 500 ms after its release.
 /// Main thread only.
 class ClickGesture {
@@ -31,7 +31,7 @@ public:
     /// True when the click being handled belongs to the press that has just hidden the panel, which
     /// then should stay hidden. True once for each such press.
     [[nodiscard]] bool claimClick();
-    /// The item's menu is on show, drawn by whomever: presses belong to the menu.
+    /// The item's menu is open, whoever draws it: presses belong to the menu.
     void menuOpened();
     void menuClosed();
     /// A host asks for the menu. It is about to show it if that answers a press on its bar.
@@ -39,15 +39,15 @@ public:
 
     // For the event monitor.
 
-    /// Runs `hide` now, later or never. An empty one is fine: nobody is watching then.
+    /// Runs `hide` now, later or never. It is empty when nobody is watching.
     void press(const Press& press, std::function<void()> hide);
     /// The button or finger of the latest press has gone up.
     void release();
     /// The last menu on the screen has gone, whosever it was: not every host tells when it closes ours.
     void menusGone();
-    /// The panel is not to be hidden any more: drops a hide that waits.
+    /// Drops a hide that is still waiting.
     void stopHiding();
-    /// `catchUp` hands over every press and release that has happened by now but was not delivered yet.
+    /// `catchUp` delivers every press and release that has happened but was not delivered yet.
     void setCatchUp(std::function<void()> catchUp);
     /// Whether the next press or release is still of interest, even with nobody watching.
     [[nodiscard]] bool isUnderway() const;

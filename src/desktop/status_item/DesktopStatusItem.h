@@ -21,12 +21,10 @@ class ClickGesture;
 class SessionBus;
 class StripWindow;
 
-/// The program's status item on whatever this desktop has: an entry in its panel bar, in the form that
-/// the bar can show, or else a small window.
+/// The program's status item, in the form that this desktop offers: an entry in its panel bar, or else a small window.
 ///
-/// The window comes at the start when nobody takes items in, and otherwise when there has been no host for two
-/// seconds, or when the bus has gone. It goes when there is one. Silent and
-/// idle while nothing changes. Main thread only.
+/// The window appears at the start if nobody takes items, and later when the bus has gone or there has been no host for
+/// two seconds. It goes when a host appears. Silent and idle while nothing changes. Main thread only.
 class DesktopStatusItem final : public QObject, public StatusItem, private StatusItemButton {
     Q_OBJECT
 

@@ -12,11 +12,11 @@
 
 namespace velto {
 
-/// The bar at the top of GNOME's main screen, which takes no status items by itself: where there is room beside its
-/// clock for a window of ours.
+/// The bar at the top of GNOME's main screen, which takes no status items by itself: where a window of ours fits
+/// beside its clock.
 ///
-/// GNOME does not tell where its clock ends. That follows from the bar's middle, from what the clock shows, which the
-/// settings portal knows, and from the type; without a portal the clock is taken to show everything. Main thread only.
+/// GNOME does not say where its clock ends. This is worked out from the middle of the bar, the font, and what the clock
+/// shows, which the settings portal knows; without a portal it is assumed to show everything. Main thread only.
 class GnomeBar final : public QObject {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ public:
     /// As high as the bar, in points. Absent on other desktops and where there is no room.
     [[nodiscard]] std::optional<QRect> placeFor(int width) const;
 
-    /// The type of the bar's texts, as the desktop's font is now.
+    /// The font of the bar's texts, as the desktop's font is now.
     [[nodiscard]] static QFont font();
 
 signals:

@@ -39,7 +39,7 @@ constexpr std::array knownProcesses{
     Known{"plasmashell", plasma},
 };
 
-// They keep the list of items and leave the showing to others.
+// They keep the list of items and leave showing them to others.
 constexpr std::array<std::string_view, 2> brokers{"kded5", "kded6"};
 
 // In this order: the desktops derived from GNOME name it as well.

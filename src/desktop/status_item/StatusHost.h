@@ -23,7 +23,7 @@ struct StatusHostFacts {
 /// How a host of status items behaves.
 struct StatusHostTraits {
     TimeShape shape = TimeShape::squarePicture;
-    bool barIsDark = false;          ///< As it comes, where it can't be seen; else it follows the colour scheme.
+    bool barIsDark = false;          ///< By default, where it can't be seen; else it follows the colour scheme.
     bool leftClickOpensMenu = false; ///< A left click never reaches the item.
     bool tellsPlace = false;         ///< Clicks carry their place on the screen also where nobody else knows it.
     bool isAtTopRight = false;       ///< Of the main screen, always.

@@ -16,7 +16,7 @@ namespace velto {
 
 namespace {
 
-/// Base name of the program that process `pid` runs; empty when that is not to be seen.
+/// Base name of the program that process `pid` runs; empty if it cannot be read.
 std::string programName(uint pid)
 {
     QFile file(QStringLiteral("/proc/%1/cmdline").arg(pid));

@@ -52,7 +52,7 @@ public:
     void registerWithWatcher();
 
     void setToolTip(const QString& text);
-    /// The text is readable in any case; `announced` tells the hosts that it is new.
+    /// Hosts can always read the text; they are told that it is new only if `announced`.
     void setLabel(const QString& text, bool announced);
     /// One in several sizes; hosts choose.
     void setPictures(const QList<QImage>& pictures);
@@ -61,8 +61,8 @@ public Q_SLOTS:
     Q_SCRIPTABLE void Activate(int x, int y);
     Q_SCRIPTABLE void SecondaryActivate(int x, int y);
     Q_SCRIPTABLE void ContextMenu(int x, int y);
-    /// Comes before each click on some hosts, which wait for what it is used for with a busy pointer.
-    /// One of more than 256 characters is answered with LimitsExceeded.
+    /// Some hosts send one before each click and show a busy pointer until it is used.
+    /// A token of more than 256 characters is answered with LimitsExceeded.
     Q_SCRIPTABLE void ProvideXdgActivationToken(const QString& token);
     Q_SCRIPTABLE void Scroll(int delta, const QString& orientation);
 

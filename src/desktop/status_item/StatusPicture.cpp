@@ -27,7 +27,7 @@ void paint(QImage& image, const QPainterPath& path, const QColor& ink)
 {
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    // On nothing, replacing is the same as blending, and does not wake a pool of threads for it.
+    // On a transparent ground this looks like blending, but does not wake a pool of threads.
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.fillPath(path, ink);
 }
@@ -69,7 +69,7 @@ QColor statusPictureInk(const QColor& bar, bool appearsDisabled)
         return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
     };
     const double luminance = 0.2126 * linear(bar.redF()) + 0.7152 * linear(bar.greenF()) + 0.0722 * linear(bar.blueF());
-    // Where black and white stand out alike.
+    // The luminance from which black and white stand out equally.
     constexpr double balance = 0.179;
     QColor ink = luminance < balance ? Qt::white : Qt::black;
     if (appearsDisabled)

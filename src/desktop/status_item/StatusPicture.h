@@ -13,7 +13,7 @@ namespace velto {
 /// Black or white, whichever stands out more from a bar of that colour: by 4.5 to 1 at least.
 [[nodiscard]] QColor statusPictureInk(const QColor& bar, bool appearsDisabled);
 
-// All pictures are ARGB32 with a transparent ground. `height` is in pixels.
+// All pictures are ARGB32 with a transparent background. `height` is in pixels.
 
 /// The whole text on one line, about as wide as it needs. The width depends on the number of
 /// characters only, so that it holds still while digits change.

@@ -34,7 +34,7 @@ constexpr QRgb inkInBar = 0xfff2f2f2;
 
 } // namespace
 
-/// What is seen of the strip, and clicked.
+/// The visible part of the strip, which takes the clicks.
 class StripWindow::Face final : public QWidget {
 public:
     using DragHandler = std::function<void(int x)>;
@@ -122,8 +122,8 @@ protected:
     }
 
 private:
-    /// A button named like the time it shows. The name changes silently: a reader asks for it, and is
-    /// not told of every second.
+    /// A button named after the time it shows. The name changes silently: a screen reader can ask for it, but is not
+    /// told of every second.
     class Accessible final : public QAccessibleWidget {
     public:
         explicit Accessible(Face* face) : QAccessibleWidget(face, QAccessible::Button), m_face(*face) { }
@@ -155,7 +155,7 @@ private:
 
     [[nodiscard]] int digitHeight() const { return static_cast<int>(std::lround(m_glyphs.digitHeight())); }
 
-    /// In a bar the digits stand on the base line of its texts.
+    /// In a bar the digits stand on the baseline of its texts.
     [[nodiscard]] int topOfDigits() const
     {
         if (!m_isInBar)

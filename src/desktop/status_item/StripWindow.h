@@ -43,7 +43,7 @@ private:
     Face* m_face;
     GnomeBar m_bar;
     FullScreenWatch m_fullScreen;
-    QFont m_font; ///< For outside of a bar.
+    QFont m_font; ///< Outside a bar.
     int m_distanceFromRight;
     bool m_isWanted = false;
 };

@@ -10,14 +10,14 @@ namespace velto {
 /// since some desktops draw their bars without a window. Absent elsewhere.
 [[nodiscard]] std::optional<QRect> barAt(const x11::Pointer& pointer);
 
-/// What the display tells of a click that is being handled.
+/// What the display knows about the click being handled.
 struct ClickSurroundings {
     ClickPlace place;
     bool controlIsHeld = false;
 };
 
-/// `claimed` is what the host says of the place. Where there is no X server for the whole screen, that is all there is:
-/// `hostTellsPlace` says what it is worth there.
+/// `claimed` is the place that the host reports. Without an X server for the whole screen there is nothing else:
+/// `hostTellsPlace` says whether it can be trusted there.
 [[nodiscard]] ClickSurroundings clickSurroundings(QPoint claimed, bool hostTellsPlace);
 
 } // namespace velto

@@ -23,7 +23,7 @@ namespace {
 constexpr int leftButton = 1;
 constexpr int rightButton = 3;
 
-/// The button as the user has arranged them; raw events carry the one on the device.
+/// The button in the user's order; raw events carry its number on the device.
 int arranged(Display* display, int button)
 {
     std::array<unsigned char, 32> map{};
@@ -83,7 +83,7 @@ std::optional<Subscription> XInputEventMonitor::addOutsidePressMonitor(std::func
     if (!connect())
         return std::nullopt;
 
-    // What happened before is not for the new one.
+    // Earlier presses are not for the new observer.
     readEvents();
     auto token = std::make_shared<Subscription>(m_presses.subscribe(std::move(handler)));
     followInterest();

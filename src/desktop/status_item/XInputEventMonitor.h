@@ -16,10 +16,10 @@ namespace velto {
 
 class ClickGesture;
 
-/// Sees every press on the X server, whoever holds a grab, through raw events of XInput 2.2, and the menus
-/// that go from the screen.
+/// Sees every press on the X server, whoever holds a grab, through raw events of XInput 2.2, and every menu that
+/// leaves the screen.
 ///
-/// Has a connection of its own, opened by the first monitor. The server is asked for events only while
+/// Has its own connection, opened by the first monitor. The server is asked for events only while
 /// somebody watches or a gesture is under way.
 class XInputEventMonitor final : public QObject, public EventMonitor {
     Q_OBJECT
@@ -52,7 +52,7 @@ private:
     std::unique_ptr<QSocketNotifier> m_notifier;
     int m_extension = 0;
     bool m_isListening = false;
-    std::set<unsigned long> m_menus; ///< On the screen, and come there while listening.
+    std::set<unsigned long> m_menus; ///< On the screen; they appeared while listening.
 };
 
 } // namespace velto

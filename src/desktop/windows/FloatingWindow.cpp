@@ -14,19 +14,19 @@ namespace velto {
 
 namespace {
 
-/// Qt says of a tool on nothing that it stands on an invisible window, and window managers refuse it things.
+/// Qt puts a tool without a parent on an invisible window, and window managers then deny it things.
 Qt::WindowType typeOn(const QWidget* parent)
 {
     return parent ? Qt::Tool : Qt::Window;
 }
 
-/// With attributes that count only now.
+/// With attributes that must be set around its creation.
 QWidget& created(QWidget& window)
 {
     window.setAttribute(Qt::WA_TranslucentBackground);
     window.setAttribute(Qt::WA_ShowWithoutActivating);
     window.winId();
-    // Counts when the window's flags change next.
+    // Takes effect when the window's flags change next.
     constexpr int utility = 0x20;
     window.windowHandle()->setProperty("_q_xcb_wm_window_type", utility);
     // Qt closes the menus that are open when a window comes, unless it takes that window for a tool.
@@ -90,7 +90,7 @@ void FloatingWindow::setVisible(bool visible)
 {
     m_isWanted = visible;
     if (visible && below() && !below()->m_isOnScreen)
-        return; // A window manager doesn't see that it stands on one that comes later.
+        return; // Window managers ignore a parent that is mapped later.
     if (visible && !isVisible())
         m_hints.announce();
     if (!visible) {
@@ -127,7 +127,7 @@ void FloatingWindow::contextMenuEvent(QContextMenuEvent* event)
         emit menuRequested();
 }
 
-/// With it the window takes no keys.
+/// The window on this one that is shown or will be. While there is one, this takes no keys.
 FloatingWindow* FloatingWindow::sheet() const
 {
     for (auto* sheet : findChildren<FloatingWindow*>(Qt::FindDirectChildrenOnly))

@@ -14,7 +14,7 @@ namespace velto {
 
 /// Floats a widget above all other windows, without a frame.
 ///
-/// With another floating window as its parent it stands on that: it comes to the screen after it.
+/// With another floating window as its parent it stands on that one, and appears after it.
 class FloatingWindow : public QWidget {
     Q_OBJECT
 
@@ -36,7 +36,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
-    /// By a key, and the content had no menu to show.
+    /// By a key that the content has not used.
     void menuRequested();
 
 protected:
@@ -50,7 +50,7 @@ private:
     [[nodiscard]] FloatingWindow* sheet() const;
 
     std::function<void()> m_dismiss;
-    bool m_isWanted = false; ///< It is visible, or will be when the one below it is on the screen.
+    bool m_isWanted = false; ///< Visible now, or once the window below is on the screen.
     bool m_isOnScreen = false;
     WindowShape m_shape;
     WindowManagerHints m_hints;

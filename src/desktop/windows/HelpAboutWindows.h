@@ -13,7 +13,7 @@ class RunLoop;
 class Screens;
 class Workspace;
 
-// What is given must outlive the window, also one that was dropped while it is on the screen.
+// The arguments must outlive the window, even one that is dropped while it is on the screen.
 
 [[nodiscard]] std::unique_ptr<Window> makeHelpWindow(const Screens& screens);
 [[nodiscard]] std::unique_ptr<Window> makeAboutWindow(

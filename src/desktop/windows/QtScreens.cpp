@@ -15,7 +15,7 @@ namespace velto {
 
 namespace {
 
-/// What a dock keeps free along the edges of the whole desktop, in pixels.
+/// What a dock reserves along the edges of the whole desktop, in pixels.
 struct Strut {
     QPoint dockCentre;
     int left = 0;
@@ -52,8 +52,8 @@ Struts currentStruts()
     return struts;
 }
 
-/// With several screens Qt takes all of each for usable, and the desktop's one work area can't tell them
-/// apart: what a bar keeps free is free on the screen the bar stands on.
+/// With several screens, Qt takes all of each as usable, since the desktop has only one work area. So what a bar
+/// reserves is taken from the screen that the bar stands on.
 QRectF usableArea(const QScreen& screen)
 {
     const QRect available = screen.availableGeometry();

@@ -21,8 +21,8 @@ class Screens;
 
 /// A window above ordinary ones that is as large as its view asks for, less where the screen is smaller.
 ///
-/// It can be moved and closed, also with Escape, but not resized or minimised. It stands in the middle of
-/// the main screen when it is first shown, afterwards where it was left. Main thread only.
+/// It can be moved and closed, also with Escape, but not resized or minimised. It first appears in the middle of the
+/// main screen, afterwards where it was left. Main thread only.
 class QtWindow final : public QObject, public Window {
     Q_OBJECT
 

@@ -8,8 +8,8 @@ namespace velto {
 
 class Screens;
 
-/// A sheet on the panel: a card of its own that hangs from the panel's top edge and goes where the panel
-/// goes, within the usable area of its screen. While it is shown the panel takes no clicks and no keys; other windows
+/// A sheet on the panel: a card that hangs from the panel's top edge and moves with it, within the usable area of the
+/// screen. While it is shown the panel takes no clicks and no keys; other windows
 /// do. Closed by the window manager it closes its content.
 class SheetWindow final : public FloatingWindow {
     Q_OBJECT

@@ -97,7 +97,7 @@ bool WindowKeyboard::eventFilter(QObject* /*watched*/, QEvent* event)
     return false;
 }
 
-/// Keys can only be pressed where the keyboard is: what is used fetches it.
+/// Keys only reach the window that has the keyboard, so the use of a control fetches it.
 void WindowKeyboard::watchUse()
 {
     connect(m_window.windowHandle(), &QWindow::focusObjectChanged, this, [this](QObject* now) {
@@ -111,7 +111,7 @@ void WindowKeyboard::watchUse()
     });
 }
 
-/// Lost is what another program has. Between two windows of this one Qt's widgets are all inactive for a moment, its
+/// Only another program's gain is a loss. Between two of our windows all of Qt's widgets are inactive for a moment; its
 /// windows are not.
 void WindowKeyboard::watchLoss()
 {

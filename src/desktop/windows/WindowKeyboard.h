@@ -12,7 +12,7 @@ class QWidget;
 
 namespace velto {
 
-/// When a window of the card has the keyboard. Showing it by itself takes it from nobody.
+/// When a window of the card has the keyboard. Merely showing it takes the keyboard from nobody.
 enum class Focus {
     leftAlone, ///< While a text field of the content is being edited.
     whenUsed,  ///< From the use of a control of the content to a press beside the controls.
@@ -25,7 +25,7 @@ enum class Focus {
 /// Of a sheet on the card, on this desktop.
 [[nodiscard]] Focus sheetFocus();
 
-/// Fetches the keyboard for a window that may have it now, and gives it back to what had it before.
+/// Fetches the keyboard for a window when it may have it, and gives it back to whatever had it before.
 class WindowKeyboard final : public QObject {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ public:
     /// Takes it back after another window of the program may have got it. No effect unless its focus is one that is
     /// taken.
     void keep();
-    /// The window has come to the screen; it gets the keyboard then, not earlier.
+    /// The window is on the screen now and can get the keyboard.
     void arrive();
     /// Before the window is hidden.
     void leave();

@@ -9,7 +9,7 @@ class QWidget;
 
 namespace velto {
 
-/// Has the window manager keep a window above all others, on every workspace and in no task bar.
+/// Asks the window manager to keep a window above all others, on every workspace and out of task bars.
 ///
 /// No effect where there is no X11.
 class WindowManagerHints final : public QAbstractNativeEventFilter {

@@ -10,8 +10,8 @@ class QWidget;
 
 namespace velto {
 
-/// Lets a window have round corners: translucent ones with a compositing manager; without one the window is opaque
-/// and cut to its shape.
+/// Gives a window round corners: translucent ones with a compositing manager; without one the window is opaque and
+/// cut to its shape.
 class WindowShape final : public QObject, public QAbstractNativeEventFilter {
     Q_OBJECT
 
