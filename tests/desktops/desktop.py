@@ -22,6 +22,7 @@ class Desktop:
     START = ""  # see Session
     USER = 0
     PLACES_CARDS = True  # where velto wants them
+    HAS_STRIP = False  # and no place for items
 
     def __init__(self, folder, name):
         self._folder, self._name = folder, name

@@ -13,11 +13,12 @@ if (!global._pointer) {
 }
 const now = () => GLib.get_monotonic_time();
 """
-_KEYS = {"Escape": 0xff1b, "Return": 0xff0d, "Tab": 0xff09}
+_KEYS = {"Escape": 0xff1b, "Return": 0xff0d, "Tab": 0xff09, "Up": 0xff52}
 
 
 class Gnome(Desktop):
     PACKAGES = ["gnome-shell"]
+    HAS_STRIP = True
     START = """
 export XDG_CURRENT_DESKTOP=GNOME XDG_SESSION_TYPE=wayland XDG_SESSION_DESKTOP=gnome
 gsettings set org.gnome.shell welcome-dialog-last-shown-version 99
@@ -67,6 +68,11 @@ wait
                 const window = actor.meta_window, r = window.get_frame_rect();
                 return [window.title, [r.x, r.y, r.width, r.height], window.has_focus()];
             })""")]
+
+    @property
+    def strip_menu(self):
+        return next((window for window in self.windows() if window.title == "velto" and window.rectangle[3] > 60
+                     and not self.is_card(window)), None)
 
     def item_place(self):
         x, y, width, height = next(window.rectangle for window in self.windows()

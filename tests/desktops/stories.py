@@ -67,6 +67,32 @@ class Stories(Story):
         desktop.save_picture("menu")
         desktop.key("Escape")
 
+    def test_the_menu_of_the_strip_goes_by_escape_and_by_a_press_elsewhere(self):
+        if not desktop.HAS_STRIP:
+            self.skipTest("the desktop's own menu")
+        self.hide()
+        for close in lambda: desktop.key("Escape"), lambda: desktop.click(*self.beside):
+            desktop.click(*self.beside)
+            wait_for(lambda: desktop.window("editor").focused, what="the keyboard in the editor")
+            self.click_item(3)
+            wait_for(lambda: desktop.strip_menu, what="the menu")
+            time.sleep(1)
+            close()
+            wait_for(lambda: not desktop.strip_menu, what="the closed menu")
+            wait_for(lambda: desktop.window("editor").focused, what="the keyboard in the editor")
+
+    def test_the_menu_of_the_strip_opens_the_form_by_keys(self):
+        if not desktop.HAS_STRIP:
+            self.skipTest("the desktop's own menu")
+        self.hide()
+        self.click_item(3)
+        wait_for(lambda: desktop.strip_menu, what="the menu")
+        time.sleep(1)
+        for key in "Up", "Up", "Up", "Up", "Return":
+            desktop.key(key)
+        wait_for(self.form_is_used, what="the form, to be used")
+        holds(self.form_is_used, 1, "the form")
+
     def test_the_form_comes_back_on_the_card_with_the_keyboard(self):
         desktop.velto("choose", "Settings…")
         wait_for(self.form_is_used, what="the form, to be used")

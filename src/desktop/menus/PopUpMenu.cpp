@@ -73,6 +73,12 @@ void PopUpMenu::popUp(const QRect& anchor)
         show();
 }
 
+void PopUpMenu::close()
+{
+    if (m_shown)
+        m_shown->close();
+}
+
 void PopUpMenu::show()
 {
     m_awaitRelease.stop();
@@ -111,9 +117,7 @@ void PopUpMenu::fill(CardMenu& shown, const Menu& menu)
 
 void PopUpMenu::chosen(const MenuItem& item)
 {
-    // Chosen by assistive technology, it is still open.
-    if (m_shown)
-        m_shown->close();
+    close(); // Chosen by assistive technology, it is still open.
     if (item.action)
         item.action(item);
 }

@@ -20,7 +20,7 @@ class CardMenu;
 /// A menu drawn by the program itself.
 ///
 /// Follows the values of the menu while it is open. Takes the keyboard without a window that has the
-/// focus. Main thread only.
+/// focus, where the X server is the one that gives it. Main thread only.
 class PopUpMenu : public QObject {
     Q_OBJECT
 
@@ -41,6 +41,7 @@ public:
     /// Returns at once. As long as a mouse button is held the menu waits, since the press belongs to
     /// somebody else. `anchor` is in Qt's coordinates.
     void popUp(const QRect& anchor);
+    void close();
     [[nodiscard]] bool isOpen() const { return m_shown != nullptr; }
 
 private:

@@ -12,6 +12,7 @@
 #include "desktop/status_item/X11Pointer.h"
 #include "desktop/windows/FlippedGeometry.h"
 #include "desktop/x11/Pixels.h"
+#include "desktop/x11/X11Desktop.h"
 #include "platform/Text.h"
 #include "style/TextStyle.h"
 
@@ -69,7 +70,15 @@ DesktopStatusItem::DesktopStatusItem(ClickGesture& gesture, Dispatcher dispatch,
     m_gesture(gesture),
     m_dispatch(std::move(dispatch)),
     m_bus(bus),
-    m_popUpMenu({[this] { m_gesture.menuOpened(); }, [this] { m_gesture.menuClosed(); }})
+    m_popUpMenu({[this] {
+                     m_gesture.menuOpened();
+                     fetchKeyboardForMenu();
+                 },
+        [this] {
+            m_gesture.menuClosed();
+            if (m_menuKeyboard)
+                m_menuKeyboard.release()->deleteLater();
+        }})
 {
     m_stripDelay.setSingleShot(true);
     m_stripDelay.setInterval(patienceForHost);
@@ -131,6 +140,18 @@ void DesktopStatusItem::menuDidChange()
 void DesktopStatusItem::popUpMenu()
 {
     m_popUpMenu.popUp(anchor().value_or(placeOfUse()));
+}
+
+/// In a session of Wayland a menu has no keyboard of its own, and is told of a press elsewhere only by the loss of it.
+void DesktopStatusItem::fetchKeyboardForMenu()
+{
+    if (x11::seesTheScreen() || !x11::connection() || QGuiApplication::focusWindow())
+        return;
+    m_menuKeyboard = std::make_unique<FloatingWindow>(
+        std::make_unique<QWidget>(), [this] { m_popUpMenu.close(); }, Focus::taken);
+    m_menuKeyboard->setGeometry(QRect(anchor().value_or(placeOfUse()).topLeft(), QSize(1, 1)));
+    m_menuKeyboard->show();
+    m_menuKeyboard->takeKeyboard();
 }
 
 bool DesktopStatusItem::eventFilter(QObject* watched, QEvent* event)

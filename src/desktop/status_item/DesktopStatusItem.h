@@ -18,6 +18,7 @@
 namespace velto {
 
 class ClickGesture;
+class FloatingWindow;
 class SessionBus;
 class StripWindow;
 
@@ -59,6 +60,7 @@ private:
     [[nodiscard]] bool hasHost() const;
     void hostChanged();
     void showStrip();
+    void fetchKeyboardForMenu();
     void drawPicture();
     [[nodiscard]] QColor barColor() const;
     void clickedInBar(ClickEvent::Kind kind, QPoint claimed);
@@ -73,7 +75,8 @@ private:
     std::unique_ptr<OnBus> m_onBus; ///< Null while there is no bus.
     std::shared_ptr<Menu> m_menu;
     PopUpMenu m_popUpMenu;
-    std::unique_ptr<StripWindow> m_strip; ///< Null unless it is on show.
+    std::unique_ptr<FloatingWindow> m_menuKeyboard; ///< Unseen; has the keyboard for the open menu.
+    std::unique_ptr<StripWindow> m_strip;           ///< Null unless it is on show.
     QTimer m_stripDelay;
 
     StatusHostTraits m_traits;
