@@ -293,7 +293,7 @@ class VirtualDesktop:
 
     def stop_bus(self):
         """Kills the session bus, and the panel bar with it."""
-        for process in (self._bus_daemon, self._listener, self.host):
+        for process in (self.bus_daemon, self._listener, self.host):
             process.kill()
             process.wait()
 

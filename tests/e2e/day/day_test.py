@@ -50,7 +50,7 @@ class Day(unittest.TestCase):
              "breakMusicPreset": b'"Custom URL"', "focusCustomURL": url, "breakCustomURL": url}, ENVIRONMENT | FAST | path)
         wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
         self.countdown.watch(lambda: [os.getpid(), self.velto.pid, self.desktop.x_server.pid,
-                                      self.desktop._bus_daemon.pid])
+                                      self.desktop.bus_daemon.pid])
         self.places = self.places_in_the_form()
 
     # The form, by mouse and keyboard: accessibility ends with the bus it began on
@@ -271,6 +271,8 @@ class Day(unittest.TestCase):
             print(f"missed: {error}", flush=True)
         with self.subTest("ticks"):
             self.assertLess(max(lateness)[0], LATEST)
+        if SETTLED < 10:
+            return  # memory is still on its way to what it settles at
         for kind, before in least[0].items():
             with self.subTest(kind):
                 self.assertLessEqual(least[1][kind], before + (MOST_GROWTH if kind == "KiB of memory" else 0))
