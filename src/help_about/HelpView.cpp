@@ -63,7 +63,7 @@ HelpView::HelpView(QSize size) : m_size(size)
     setWidget(page);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
-    setVerticalScrollBar(new ScrollBar(Qt::Vertical));
+    setVerticalScrollBar(new ScrollBar);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 

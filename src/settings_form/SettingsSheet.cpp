@@ -89,7 +89,7 @@ SettingsSheet::SettingsSheet(
         filling(section(tr("Behavior"), behavior())), filling(new Divider), filling(section(tr("Sounds"), sounds())),
         filling(new Divider), filling(section(tr("Music"), music())), spacer));
     auto* cancelButton = new Button(ButtonKind::bordered, tr("Cancel"));
-    auto* indicator = new ScrollBar(Qt::Vertical);
+    auto* indicator = new ScrollBar;
     // The same room on both sides keeps the page in the middle of the card.
     const int side = padding + indicator->sizeHint().width();
     sections->layout()->setContentsMargins(side, padding, padding, padding);

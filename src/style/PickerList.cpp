@@ -111,7 +111,7 @@ PickerList::PickerList(QComboBox& picker) : m_picker(picker)
     setFrameShape(QFrame::NoFrame);
     setViewportMargins(padding, padding, padding, padding);
     viewport()->setAutoFillBackground(false);
-    setVerticalScrollBar(new ScrollBar(Qt::Vertical));
+    setVerticalScrollBar(new ScrollBar);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
     picker.setView(this);

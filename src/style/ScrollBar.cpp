@@ -37,8 +37,7 @@ public:
         if (control != CC_ScrollBar || !bar)
             return QProxyStyle::subControlRect(control, option, part, widget);
 
-        const bool isHorizontal = bar->orientation == Qt::Horizontal;
-        const int length = isHorizontal ? bar->rect.width() : bar->rect.height();
+        const int length = bar->rect.height();
         const int range = bar->maximum - bar->minimum;
         const int thumb = range == 0
             ? length
@@ -46,10 +45,7 @@ public:
                 std::max(shortestThumb, length));
         const int start
             = sliderPositionFromValue(bar->minimum, bar->maximum, bar->sliderPosition, length - thumb, bar->upsideDown);
-        const auto slice = [&](int from, int to) {
-            return isHorizontal ? QRect(from, 0, to - from, bar->rect.height())
-                                : QRect(0, from, bar->rect.width(), to - from);
-        };
+        const auto slice = [&](int from, int to) { return QRect(0, from, bar->rect.width(), to - from); };
         switch (part) {
         case SC_ScrollBarSlider:
             return slice(start, start + thumb);
@@ -67,7 +63,7 @@ public:
 
 } // namespace
 
-ScrollBar::ScrollBar(Qt::Orientation orientation) : QScrollBar(orientation)
+ScrollBar::ScrollBar() : QScrollBar(Qt::Vertical)
 {
     auto* slim = new ScrollBarStyle;
     slim->setParent(this);

@@ -5,12 +5,12 @@
 
 namespace velto {
 
-/// A slim bar without arrows, to be given to a scroll area.
+/// A slim vertical bar without arrows, to be given to a scroll area.
 class ScrollBar final : public QScrollBar {
     Q_OBJECT
 
 public:
-    explicit ScrollBar(Qt::Orientation orientation);
+    ScrollBar();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
