@@ -121,9 +121,15 @@ std::vector<double> RollingTime::middlesOf(const QString& text) const
 
     const auto halfInk = [this](QChar character) { return m_glyphs.outline(character).boundingRect().width() / 2; };
     // The last digit, which changes most, ends where the widest would, so that the others need not move for it. A "1"
-    // would then stand too far off: it goes half of the way, and all of them the rest.
+    // would then stand too far off: it goes half of the way, the digit before it comes towards it, and all move the
+    // rest.
     const double room = m_glyphs.digitWidth() / 2 - halfInk(text.back());
-    middles.back() += room > gap * m_fontSize ? room / 2 : room;
+    if (room > gap * m_fontSize && text.size() > 1) {
+        middles.back() += room / 2;
+        middles[middles.size() - 2] += room / 4;
+    } else {
+        middles.back() += room;
+    }
     const double left = middles.front() - halfInk(text.front());
     const double right = middles.back() + halfInk(text.back());
     for (auto& middle : middles)
