@@ -87,7 +87,7 @@ size=28
 object-type='applet'
 applet-iid='NotificationAreaAppletFactory::NotificationArea'
 toplevel-id='top'
-position=0
+position={distance}
 panel-right-stick=true
 """
 
@@ -177,14 +177,17 @@ class LxqtPanel:
 
 
 class MatePanel:
-    """The MATE panel at the top of the screen with its notification area. Shows pictures of any width,
+    """The MATE panel at the top of the screen with its notification area, so far from the right edge. Shows labels,
     activates on release."""
+
+    def __init__(self, distance=0):
+        self._distance = distance
 
     def start(self, desktop):
         folder = desktop.path("config/glib-2.0/settings")
         os.makedirs(folder, exist_ok=True)
         with open(os.path.join(folder, "keyfile"), "w", encoding="utf-8") as file:
-            file.write(_MATE)
+            file.write(_MATE.format(distance=self._distance))
         return desktop.run("mate-panel", environment={"XDG_CURRENT_DESKTOP": "MATE", "GSETTINGS_BACKEND": "keyfile"})
 
     def item_rectangle(self, desktop):
@@ -199,6 +202,7 @@ HOSTS = {
     "lxqt": LxqtPanel("light"),
     "lxqt-dark": LxqtPanel("dark"),
     "mate": MatePanel(),
+    "mate-inside": MatePanel(distance=308),
     "xfce": XfcePanel(),
     "xfce-light": XfcePanel(dark=False),
     "press": PlainBar("press"),
