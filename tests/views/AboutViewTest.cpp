@@ -66,7 +66,7 @@ TEST_F(AboutViewTest, SaysWhatTheProgramIs)
     EXPECT_EQ(buttons.at(2)->text(), "Buy Me a Coffee");
 }
 
-TEST_F(AboutViewTest, ReadsItsTextsAnewWheneverItIsShown)
+TEST_F(AboutViewTest, ReadsItsTextsAgainWheneverItIsShown)
 {
     view.hide();
     bundle.values = {{"CFBundleName", "Egg Clock"}, {"CFBundleShortVersionString", "2"}};

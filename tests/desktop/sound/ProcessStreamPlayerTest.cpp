@@ -116,7 +116,7 @@ TEST_F(ProcessStreamPlayerTest, PauseSilencesAtOnceAndClosesTheConnection)
     EXPECT_EQ(recording->amplitude(tone), 0);
 }
 
-TEST_F(ProcessStreamPlayerTest, EveryPlayOpensTheStreamAnew)
+TEST_F(ProcessStreamPlayerTest, EveryPlayOpensTheStreamAgain)
 {
     listenTo(streams.url("tone.mp3"));
     ASSERT_TRUE(eventually([&] { return toneIsHeard(); }));
@@ -191,7 +191,7 @@ TEST_F(ProcessStreamPlayerTest, ComesBackWhenTheStreamStalls)
     EXPECT_TRUE(eventually([&] { return toneIsHeard(); }));
 }
 
-TEST_F(ProcessStreamPlayerTest, LeavesAFailingStreamAloneForLongerEachTime)
+TEST_F(ProcessStreamPlayerTest, WaitsLongerAfterEachFailure)
 {
     FakeRunLoop time;
     ProcessStreamPlayerFactory failing("/bin/false", time);

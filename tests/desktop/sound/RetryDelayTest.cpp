@@ -25,7 +25,7 @@ TEST(RetryDelayTest, GrowsFromASecondToHalfAMinute)
     }
 }
 
-TEST(RetryDelayTest, IsNotTheSameForEverybody)
+TEST(RetryDelayTest, DiffersFromListenerToListener)
 {
     std::set<std::chrono::milliseconds> delays;
     for (unsigned seed = 1; seed <= 100; ++seed) {
@@ -36,7 +36,7 @@ TEST(RetryDelayTest, IsNotTheSameForEverybody)
     EXPECT_GT(delays.size(), 50);
 }
 
-TEST(RetryDelayTest, BeginsAnewAfterAnAttemptThatWentWell)
+TEST(RetryDelayTest, StartsOverAfterAnAttemptThatWentWell)
 {
     RetryDelay delay(1);
     for (int i = 0; i < 6; ++i)
@@ -47,7 +47,7 @@ TEST(RetryDelayTest, BeginsAnewAfterAnAttemptThatWentWell)
     EXPECT_THAT(delay.after(0s), AllOf(Ge(1600ms), Le(2500ms)));
 }
 
-TEST(RetryDelayTest, BeginsAnewOnRequest)
+TEST(RetryDelayTest, StartsOverOnRequest)
 {
     RetryDelay delay(1);
     for (int i = 0; i < 6; ++i)

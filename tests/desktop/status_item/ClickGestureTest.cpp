@@ -125,7 +125,7 @@ TEST(ClickGestureTest, AClickBelongsToOnePressOnly)
     EXPECT_FALSE(desk.gesture.claimClick());
 }
 
-TEST(ClickGestureTest, APressMayBeHeldAsLongAsOneLikes)
+TEST(ClickGestureTest, APressMayBeHeldForAnyTime)
 {
     Desk desk;
 
@@ -153,7 +153,7 @@ TEST(ClickGestureTest, APressIsForgottenHalfASecondAfterItsRelease)
     }
 }
 
-TEST(ClickGestureTest, TheNextPressEndsTheMemoryOfTheOneBefore)
+TEST(ClickGestureTest, TheNextPressReplacesTheRememberedOne)
 {
     Desk desk;
     desk.pressAndRelease(leftElsewhere);
@@ -255,7 +255,7 @@ TEST(ClickGestureTest, PressesWhileTheMenuIsOpenLeaveThePanelAsItIs)
     EXPECT_FALSE(desk.isPanelVisible);
 }
 
-TEST(ClickGestureTest, AMenuWhoseClosingIsNeverToldEndsWithAPressBesideIt)
+TEST(ClickGestureTest, AMenuWhoseClosingIsNotReportedEndsWithAPressBesideIt)
 {
     Desk desk;
     desk.gesture.menuOpened();
@@ -266,7 +266,7 @@ TEST(ClickGestureTest, AMenuWhoseClosingIsNeverToldEndsWithAPressBesideIt)
     EXPECT_FALSE(desk.isPanelVisible);
 }
 
-TEST(ClickGestureTest, AMenuWhoseClosingIsNeverToldEndsWithTheLastMenuOnTheScreen)
+TEST(ClickGestureTest, AMenuWhoseClosingIsNotReportedEndsWithTheLastMenuOnTheScreen)
 {
     Desk desk;
     desk.pressAndRelease(rightOnBar);
@@ -278,7 +278,7 @@ TEST(ClickGestureTest, AMenuWhoseClosingIsNeverToldEndsWithTheLastMenuOnTheScree
     EXPECT_FALSE(desk.isPanelVisible);
 }
 
-TEST(ClickGestureTest, AClickOnTheItemEndsAMenuWhoseClosingIsNeverTold)
+TEST(ClickGestureTest, AClickOnTheItemEndsAMenuWhoseClosingIsNotReported)
 {
     Desk desk;
     desk.gesture.menuOpened();

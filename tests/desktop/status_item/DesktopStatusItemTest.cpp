@@ -128,7 +128,7 @@ TEST_F(DesktopStatusItemTest, ForwardsClicksAsTheCurrentEvent)
             {ClickEvent::Kind::rightMouseUp, false}}));
 }
 
-TEST_F(DesktopStatusItemTest, LeavesAClickAloneThatBelongsToThePressWhichHidThePanel)
+TEST_F(DesktopStatusItemTest, IgnoresTheClickOfThePressThatHidThePanel)
 {
     gesture.press({Press::Target::bar, false}, [] {});
 
@@ -139,7 +139,7 @@ TEST_F(DesktopStatusItemTest, LeavesAClickAloneThatBelongsToThePressWhichHidTheP
     EXPECT_EQ(clicks.size(), 1U);
 }
 
-TEST_F(DesktopStatusItemTest, IsNowhereAsLongAsNoClickHasSaidWhere)
+TEST_F(DesktopStatusItemTest, HasNoPlaceUntilAClickTellsIt)
 {
     const FakeWatcher watcher;
     ASSERT_TRUE(eventually([&] { return !pictures().isEmpty(); }));
@@ -206,7 +206,7 @@ TEST_F(DesktopStatusItemTest, ComesBackWithTheBus)
     EXPECT_EQ(qdbus_cast<DBusMenuLayout>(layout.arguments().value(1)).children.size(), 1);
 }
 
-TEST_F(DesktopStatusItemTest, TheStripIsNamedLikeTheTimeWithoutAnnouncingIt)
+TEST_F(DesktopStatusItemTest, TheStripIsNamedAfterTheTimeWithoutAnnouncingIt)
 {
     ASSERT_TRUE(eventually([] { return shown<StripWindow>() != nullptr; }));
     auto* face = shown<StripWindow>()->findChild<QWidget*>();

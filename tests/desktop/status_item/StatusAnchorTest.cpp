@@ -33,7 +33,7 @@ TEST(StatusAnchorTest, WorksAtNegativeCoordinates)
     EXPECT_EQ(statusAnchor({QPoint(-500, 1070), QRect(-1280, 1052, 1280, 28), nonsense}), QRect(-512, 1052, 24, 28));
 }
 
-TEST(StatusAnchorTest, OutsideOfBarsTheHostHasToAgreeWithThePointer)
+TEST(StatusAnchorTest, OutsideBarsTheHostMustAgreeWithThePointer)
 {
     const QRect aroundPointer(388, 288, 24, 24);
 
@@ -42,7 +42,7 @@ TEST(StatusAnchorTest, OutsideOfBarsTheHostHasToAgreeWithThePointer)
     EXPECT_EQ(statusAnchor({QPoint(400, 300), std::nullopt, nonsense}), std::nullopt);
 }
 
-TEST(StatusAnchorTest, AHostThatTellsTheTrueWhereaboutsNeedsNoPointer)
+TEST(StatusAnchorTest, AHostThatReportsTheTruePlaceNeedsNoPointer)
 {
     EXPECT_EQ(statusAnchor({std::nullopt, topBar, {1000, 20}, true}), QRect(988, 0, 24, 28));
     EXPECT_EQ(statusAnchor({QPoint(5, 900), topBar, {1000, 20}, true}), QRect(988, 0, 24, 28));

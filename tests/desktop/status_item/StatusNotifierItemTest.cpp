@@ -78,7 +78,7 @@ TEST_F(StatusNotifierItemTest, IsDescribedByIntrospection)
         EXPECT_TRUE(xml.contains(QLatin1String(expected))) << expected << " in " << xml.toStdString();
 }
 
-TEST_F(StatusNotifierItemTest, TellsOfALabelOnlyWhenItIsAnotherOne)
+TEST_F(StatusNotifierItemTest, AnnouncesALabelOnlyWhenItChanges)
 {
     item.setLabel(QStringLiteral("24:59"), true);
     item.setLabel(QStringLiteral("24:59"), true);
@@ -90,7 +90,7 @@ TEST_F(StatusNotifierItemTest, TellsOfALabelOnlyWhenItIsAnotherOne)
     EXPECT_EQ(property("XAyatanaLabel"), QStringLiteral("24:59"));
 }
 
-TEST_F(StatusNotifierItemTest, KeepsALabelReadableThatIsNotAnnounced)
+TEST_F(StatusNotifierItemTest, KeepsAnUnannouncedLabelReadable)
 {
     item.setLabel(QStringLiteral("24:59"), false);
 
@@ -98,7 +98,7 @@ TEST_F(StatusNotifierItemTest, KeepsALabelReadableThatIsNotAnnounced)
     EXPECT_EQ(property("XAyatanaLabel"), QStringLiteral("24:59"));
 }
 
-TEST_F(StatusNotifierItemTest, TellsOfAPictureOnlyWhenItsPixelsChange)
+TEST_F(StatusNotifierItemTest, AnnouncesAPictureOnlyWhenItsPixelsChange)
 {
     item.setPictures({picture(4, Qt::red)});
     item.setPictures({picture(4, Qt::red)});
@@ -115,7 +115,7 @@ TEST_F(StatusNotifierItemTest, TellsOfAPictureOnlyWhenItsPixelsChange)
     EXPECT_TRUE(qdbus_cast<DBusPictures>(property("IconPixmap")).isEmpty());
 }
 
-TEST_F(StatusNotifierItemTest, TellsOfAToolTipOnlyWhenItIsAnotherOne)
+TEST_F(StatusNotifierItemTest, AnnouncesAToolTipOnlyWhenItChanges)
 {
     item.setToolTip(QStringLiteral("Velto"));
     item.setToolTip(QStringLiteral("Velto"));

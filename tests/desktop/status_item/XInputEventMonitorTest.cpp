@@ -138,7 +138,7 @@ TEST_F(XInputEventMonitorTest, NothingCountsAfterTheTokenIsDropped)
     EXPECT_TRUE(stays([&] { return presses == 1; })) << presses;
 }
 
-TEST_F(XInputEventMonitorTest, NothingOfBeforeCountsForANewMonitor)
+TEST_F(XInputEventMonitorTest, EarlierPressesDoNotCountForANewMonitor)
 {
     auto token = watch();
     ASSERT_TRUE(Desktop::click(1500, 900));

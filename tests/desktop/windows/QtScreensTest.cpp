@@ -54,7 +54,7 @@ TEST_F(QtScreensTest, AScreenByItselfHasItsOriginAtItsBottomLeft)
     EXPECT_EQ(QtScreens{runLoop}.mainScreen(), (Screen{{0, 0, 2400, 1200}, {0, 0, 2400, 1200}}));
 }
 
-TEST_F(QtScreensTest, PanelBarsAreNoUsableRoom)
+TEST_F(QtScreensTest, PanelBarsAreNotUsable)
 {
     Desktop::current().startWindowManager();
     OtherWindow bar{{0, 0, 2400, 30}, OtherWindow::Kind::dock};
@@ -86,7 +86,7 @@ TEST_F(QtScreensTest, ARectangleIsWhereItsMiddleIs)
     EXPECT_EQ(screens.screenOf({5000, 100, 40, 22}), std::nullopt);
 }
 
-TEST_F(QtScreensTest, ABarTakesRoomOfTheScreenItStandsOnOnly)
+TEST_F(QtScreensTest, ABarTakesRoomOnItsOwnScreenOnly)
 {
     Desktop::current().startWindowManager();
     makeTwoScreens();
@@ -116,7 +116,7 @@ TEST_F(QtScreensTest, ScreensComeAndGo)
     EXPECT_EQ(QtScreens{runLoop}.mainScreen()->frame, mainFrame);
 }
 
-TEST_F(QtScreensTest, ChangesAreTold)
+TEST_F(QtScreensTest, ChangesAreReported)
 {
     Desktop::current().startWindowManager();
     QtScreens screens{runLoop};
@@ -141,7 +141,7 @@ TEST_F(QtScreensTest, ChangesAreTold)
     EXPECT_TRUE(isTold([] { Desktop::run("xrandr", {"--delmonitor", "side"}); }));
 }
 
-TEST(FlippedGeometryTest, BothWaysMeetAgain)
+TEST(FlippedGeometryTest, ConvertingThereAndBackChangesNothing)
 {
     makeTwoScreens();
     const QRectF upperLeft{10.5, 310, 40, 22};

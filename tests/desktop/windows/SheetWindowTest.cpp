@@ -129,7 +129,7 @@ TEST_F(SheetWindowTest, ShownAgainItLeavesTheKeyboardToTheSheetOnIt)
     EXPECT_TRUE(eventually([&] { return text->text() == "25"; })) << text->text().toStdString();
 }
 
-TEST_F(SheetWindowTest, ACloseOfASheetFromOutsideClosesItsContentAlsoOverAHiddenCard)
+TEST_F(SheetWindowTest, ClosedFromOutsideItClosesItsContentEvenOverAHiddenCard)
 {
     Desktop::current().startWindowManager();
     for (const bool isHidden : {false, true}) {
