@@ -6,6 +6,7 @@
 #include <QFont>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRawFont>
 #include <QString>
 #include <QStringList>
 
@@ -32,12 +33,12 @@ void paint(QImage& image, const QPainterPath& path, const QColor& ink)
     painter.fillPath(path, ink);
 }
 
-/// Large enough to be scaled.
+/// To be scaled: in the font's own units. In other sizes Qt 6.8 rounds an outline by what it has drawn before.
 QFont outlineFont(QFont font, QFont::Weight weight)
 {
-    constexpr int pixels = 100;
-    font.setPixelSize(pixels);
     font.setWeight(weight);
+    constexpr int enough = 100; // For a font without units.
+    font.setPixelSize(std::max(enough, static_cast<int>(QRawFont::fromFont(font).unitsPerEm())));
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }

@@ -6,6 +6,7 @@
 
 #include <QFont>
 #include <QImage>
+#include <QPainter>
 
 #include <algorithm>
 #include <cmath>
@@ -48,6 +49,24 @@ TEST_F(StatusPictureTest, AWidePictureIsAsWideAsItsTextAndHoldsStillWhileDigitsC
     EXPECT_GT(wide("100:00").width(), wide("24:59").width());
     EXPECT_GT(wide("24:59").width(), 48);
     EXPECT_LT(wide("24:59").width(), 3 * 48);
+}
+
+TEST_F(StatusPictureTest, ATimeIsDrawnAlikeWhateverElseIsDrawn)
+{
+    const auto square = squares("25:00");
+    const auto oneLine = wide("25:00");
+    QImage elsewhere(200, 50, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&elsewhere);
+    for (const auto weight : {QFont::Normal, QFont::DemiBold}) {
+        QFont small;
+        small.setPixelSize(13);
+        small.setWeight(weight);
+        painter.setFont(small);
+        painter.drawText(10, 30, QStringLiteral("0123456789 Start"));
+    }
+
+    EXPECT_EQ(squares("25:00"), square);
+    EXPECT_EQ(wide("25:00"), oneLine);
 }
 
 TEST_F(StatusPictureTest, AWidePictureHasItsTextInTheMiddle)
