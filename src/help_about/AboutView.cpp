@@ -34,7 +34,7 @@ AboutView::AboutView(QSize size, AboutDetails details, const Bundle& bundle, con
     m_calendar(calendar),
     m_workspace(workspace),
     m_runLoop(runLoop),
-    m_title(new TextLabel({}, TextStyle::title2, ColorName::label, QFont::Bold)),
+    m_title(new TextLabel({}, TextStyle::title2)),
     m_version(new TextLabel({}, TextStyle::subheadline, ColorName::secondaryLabel)),
     m_rights(new TextLabel({}, TextStyle::footnote, ColorName::tertiaryLabel))
 {

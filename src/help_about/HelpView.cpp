@@ -24,7 +24,7 @@ constexpr int leastSpacing = 6;
 HelpView::HelpView(QSize size) : m_size(size)
 {
     auto* icon = new ApplicationIcon(80, 16);
-    auto* welcome = new TextLabel(tr("Welcome to velto"), TextStyle::title, ColorName::label, QFont::Bold);
+    auto* welcome = new TextLabel(tr("Welcome to velto"), TextStyle::title);
     auto* purpose = new Paragraph(tr("A simple focus timer for productivity sessions"), TextStyle::body,
         ColorName::secondaryLabel, Qt::AlignHCenter);
     auto* start = new HelpSection("play.circle.fill", tr("Getting Started"),

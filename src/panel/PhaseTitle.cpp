@@ -12,20 +12,9 @@
 
 namespace velto {
 
-namespace {
-
-QFont titleFont()
-{
-    auto font = textFont(TextStyle::title);
-    font.setWeight(QFont::Bold);
-    return font;
-}
-
-} // namespace
-
 PhaseTitle::PhaseTitle()
 {
-    followFont(*this, titleFont);
+    followFont(*this, [] { return textFont(TextStyle::title); });
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(&m_fade, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
 }

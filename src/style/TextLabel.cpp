@@ -3,15 +3,12 @@
 
 #include <QEvent>
 
-#include <algorithm>
-
 namespace velto {
 
-TextLabel::TextLabel(const QString& text, TextStyle style, ColorName color, QFont::Weight weight) :
+TextLabel::TextLabel(const QString& text, TextStyle style, ColorName color) :
     QLabel(text),
     m_style(style),
-    m_color(color),
-    m_weight(weight)
+    m_color(color)
 {
     setTextFormat(Qt::PlainText);
     applyStyle();
@@ -28,8 +25,7 @@ bool TextLabel::event(QEvent* event)
 
 void TextLabel::applyStyle()
 {
-    auto wantedFont = textFont(m_style);
-    wantedFont.setWeight(std::max(wantedFont.weight(), m_weight));
+    const auto wantedFont = textFont(m_style);
     if (font() != wantedFont)
         setFont(wantedFont);
     const auto wantedColor = color(m_color, *this);

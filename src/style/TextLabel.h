@@ -13,8 +13,7 @@ class TextLabel : public QLabel {
     Q_OBJECT
 
 public:
-    explicit TextLabel(const QString& text, TextStyle style = TextStyle::body, ColorName color = ColorName::label,
-        QFont::Weight weight = QFont::Normal);
+    explicit TextLabel(const QString& text, TextStyle style = TextStyle::body, ColorName color = ColorName::label);
 
     bool event(QEvent* event) override;
 
@@ -23,7 +22,6 @@ private:
 
     TextStyle m_style;
     ColorName m_color;
-    QFont::Weight m_weight;
 };
 
 } // namespace velto

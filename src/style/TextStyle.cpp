@@ -38,6 +38,21 @@ QString roundedFamily()
     return tabular == rounded.end() ? rounded.value(0) : *tabular;
 }
 
+QFont::Weight weightOf(TextStyle style)
+{
+    // Short of bold, which Qt 6.8 draws twice as bold in a variable font.
+    constexpr auto bold = static_cast<QFont::Weight>(QFont::Bold - 1);
+    switch (style) {
+    case TextStyle::title:
+    case TextStyle::title2:
+        return bold;
+    case TextStyle::headline:
+        return QFont::DemiBold;
+    default:
+        return QFont::Normal;
+    }
+}
+
 class FontFollower final : public QObject {
 public:
     FontFollower(QWidget& widget, std::function<void()> answer) : QObject(&widget), m_answer(std::move(answer))
@@ -88,7 +103,7 @@ QFont textFont(TextStyle style)
 {
     auto font = QGuiApplication::font();
     font.setPixelSize(static_cast<int>(std::lround(pixelSize(style, textScale(font)))));
-    font.setWeight(style == TextStyle::headline ? QFont::DemiBold : QFont::Normal);
+    font.setWeight(weightOf(style));
     return font;
 }
 

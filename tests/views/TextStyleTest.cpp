@@ -46,7 +46,14 @@ TEST(TextStyleTest, EachStyleHasItsSize)
         EXPECT_DOUBLE_EQ(pixelSize(style, 1), pixels);
         EXPECT_DOUBLE_EQ(pixelSize(style, 1.25), pixels * 1.25);
     }
+}
+
+TEST(TextStyleTest, TheLargerTheBolder)
+{
+    EXPECT_EQ(textFont(TextStyle::body).weight(), QFont::Normal);
     EXPECT_EQ(textFont(TextStyle::headline).weight(), QFont::DemiBold);
+    EXPECT_GT(textFont(TextStyle::title2).weight(), QFont::DemiBold);
+    EXPECT_EQ(textFont(TextStyle::title).weight(), textFont(TextStyle::title2).weight());
 }
 
 TEST(TextStyleTest, TheClockKeepsItsSizeWhateverTheDesktopsFont)

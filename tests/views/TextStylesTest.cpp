@@ -86,7 +86,7 @@ TEST_F(TextStylesTest, OfHelp)
     HelpView view{{600, 800}};
     view.resize(view.sizeHint());
     std::vector<Look> looks{
-        {"Welcome to velto", TextStyle::title, label, QFont::Bold},
+        {"Welcome to velto", TextStyle::title, label},
         {"A simple focus timer for productivity sessions", TextStyle::body, secondary},
         {"You can access this guide anytime from the menu bar → How to Use", TextStyle::footnote, secondary},
     };
@@ -110,7 +110,7 @@ TEST_F(TextStylesTest, OfAbout)
 
     expectLooks(view,
         {
-            {"velto - Focus Timer", TextStyle::title2, label, QFont::Bold},
+            {"velto - Focus Timer", TextStyle::title2, label},
             {"A focus timer companion built to keep sessions simple and distraction-free.", TextStyle::body, secondary},
             {"Support", TextStyle::headline, std::nullopt},
             {"Website", TextStyle::headline, std::nullopt},
