@@ -184,6 +184,9 @@ void WindowKeyboard::claim()
     // other, the widgets, that it is so again; or which is still to tell that it was lost then.
     m_oldLoss = QDeadlineTimer(500);
     QT_IGNORE_DEPRECATIONS(QApplication::setActiveWindow(&m_window);) // Nothing else reaches them.
+    // Told so while it was hidden, they have given none of its controls the focus.
+    if (auto* used = m_window.focusWidget())
+        used->setFocus(Qt::ActiveWindowFocusReason);
 }
 
 void WindowKeyboard::giveBack()

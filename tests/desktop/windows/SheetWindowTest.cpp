@@ -14,6 +14,17 @@ namespace {
 
 class SheetWindowTest : public QtPanelWindowTest {
 protected:
+    /// As far as Qt is told.
+    static void giveKeyboardTo(const QWidget& window)
+    {
+        xcb_focus_in_event_t event{};
+        event.response_type = XCB_FOCUS_IN;
+        event.detail = XCB_NOTIFY_DETAIL_NONLINEAR;
+        event.event = idOf(window);
+        xcb_send_event(x11::connection(), 0, event.event, 0, reinterpret_cast<const char*>(&event));
+        xcb_flush(x11::connection());
+    }
+
     FakeRunLoop runLoop;
     QtScreens screens{runLoop};
 };
@@ -78,6 +89,30 @@ TEST_F(SheetWindowTest, ASheetIsMappedAfterItsCardEachTime)
         sheet.hide();
         panel->orderOut();
     }
+}
+
+TEST_F(SheetWindowTest, ASheetThatGetsTheKeyboardWhileItIsHiddenHasItsFieldFocusedLater)
+{
+    Desktop::current().startWindowManager();
+    auto* text = new QLineEdit;
+    SheetWindow sheet{std::unique_ptr<QWidget>{text}, *surface, screens, [] {}};
+    const auto hasKeyboard = [&] { return text->hasFocus() && sheet.isActiveWindow(); };
+    const auto showBoth = [&] {
+        sheet.show();
+        panel->orderFrontRegardless();
+        panel->makeKey();
+    };
+    showBoth();
+    ASSERT_TRUE(eventually(hasKeyboard));
+    sheet.hide();
+    panel->orderOut();
+
+    ASSERT_TRUE(eventually([] { return !QGuiApplication::focusWindow(); }));
+    giveKeyboardTo(sheet);
+    ASSERT_TRUE(eventually([&] { return QGuiApplication::focusWindow() == sheet.windowHandle(); }));
+    showBoth();
+
+    EXPECT_TRUE(eventually(hasKeyboard));
 }
 
 TEST_F(SheetWindowTest, ASheetThatComesBackWithACardThatIsAskedForHasTheKeyboard)
