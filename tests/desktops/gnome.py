@@ -26,7 +26,9 @@ gsettings set org.gnome.desktop.session idle-delay 0
 gnome-shell --headless --wayland --virtual-monitor 1280x800 --unsafe-mode &
 until ls $XDG_RUNTIME_DIR/.mutter-Xwaylandauth* && [ -S $XDG_RUNTIME_DIR/wayland-0 ]; do sleep 0.2; done >/dev/null 2>&1
 export WAYLAND_DISPLAY=wayland-0 DISPLAY=:0 XAUTHORITY=$(ls $XDG_RUNTIME_DIR/.mutter-Xwaylandauth*)
-sleep 3 # the shell shows its overview
+until gdbus call --session --dest org.gnome.Shell --object-path /org/gnome/Shell --method org.gnome.Shell.Eval \\
+    'imports.ui.main.layoutManager._startingUp' | grep "'false'"
+do sleep 0.2; done >/dev/null 2>&1
 env | grep -E '^(HOME|XDG_|DBUS|PATH|LANG|USER|LOGNAME|WAYLAND_|DISPLAY|XAUTHORITY)' > $XDG_RUNTIME_DIR/session
 wait
 """
