@@ -14,6 +14,7 @@ from xml.etree import ElementTree
 LANGUAGES = ["ar", "de", "es", "fr", "ja", "pl", "pt_BR", "zh_CN"]
 FOLDER = os.path.abspath(sys.argv[1])
 UPDATE = sys.argv[2:]
+PACKAGING = os.path.join(FOLDER, "../packaging")
 CATALOGUES = sorted(glob.glob(FOLDER + "/*.ts"))
 
 
@@ -61,6 +62,24 @@ class Catalogues(unittest.TestCase):
             texts = dict(entries(path))
             footer = texts["You can access this guide anytime from the menu bar → How to Use"]
             self.assertIn(texts["How to Use"], footer, path)
+
+    def test_the_desktop_entry_is_in_every_language(self):
+        entry = read(PACKAGING + "/org.velto.Velto.desktop")
+        for key in ("GenericName", "Comment", "Keywords"):
+            self.assertEqual(re.findall(rf"^{key}\[(.*)\]=.", entry, re.MULTILINE), LANGUAGES, key)
+
+    def test_the_metainfo_is_in_every_language(self):
+        languages = {language.replace("_", "-") for language in LANGUAGES}
+        root = ElementTree.parse(PACKAGING + "/org.velto.Velto.metainfo.xml.in").getroot()
+        root.remove(root.find("releases"))
+        for parent in root.iter():
+            for tag in ("summary", "p", "li", "caption", "keyword"):
+                said = [child.get("{http://www.w3.org/XML/1998/namespace}lang") for child in parent.findall(tag)]
+                if said:
+                    self.assertLessEqual(languages, set(said), tag)
+                    if tag != "keyword":
+                        self.assertEqual([said.count(language) for language in languages],
+                                         [said.count(None)] * len(languages), tag)
 
 
 if __name__ == "__main__":
