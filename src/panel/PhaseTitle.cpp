@@ -29,7 +29,7 @@ void PhaseTitle::setTitle(const QString& title, ColorName color)
     updateGeometry();
     update();
     if (isSeen()) {
-        for (const auto kind : {QAccessible::NameChanged, QAccessible::Alert}) {
+        for (const auto kind : {QAccessible::NameChanged, QAccessible::ObjectShow}) {
             QAccessibleEvent announcement(this, kind);
             QAccessible::updateAccessibility(&announcement);
         }

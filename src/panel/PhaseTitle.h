@@ -18,6 +18,8 @@ public:
 
     void setTitle(const QString& title, ColorName color);
     [[nodiscard]] QString spokenText() const override { return m_title.text; }
+    /// What screen readers speak when it shows, wherever the focus is.
+    [[nodiscard]] QAccessible::Role spokenRole() const override { return QAccessible::Notification; }
 
     [[nodiscard]] QSize sizeHint() const override;
 

@@ -198,11 +198,11 @@ QWidget* SettingsSheet::durationSlider(const QString& title, Published<std::int6
     m_numberFields.push_back(number);
 
     connect(number, &QLineEdit::returnPressed, this, [this] { setFocus(); });
-    connect(slider, &Slider::chosen, this,
-        [&value](double minutes) { assign<std::int64_t>(value, std::llround(minutes)); });
+    connect(slider, &Slider::chosen, this, [&value](int minutes) { assign<std::int64_t>(value, minutes); });
     m_readings.emplace_back([slider, unit, &value] {
         slider->showValue(static_cast<double>(value()));
         unit->setText(tr("minutes", nullptr, static_cast<int>(std::clamp<std::int64_t>(value(), 0, INT_MAX))));
+        slider->setAccessibleDescription(unit->text());
     });
     return box(column({.spacing = 6, .alignment = {}}, row({}, new TextLabel(title), spacer, number, unit), slider),
         controlWidth);
@@ -229,7 +229,6 @@ QLayout* SettingsSheet::soundPicker(const QString& title, Published<SoundOption>
     auto* sound = picker(title, "SoundOption", allSoundOptions, selection);
     auto* play = new Button(ButtonKind::borderless, {}, "play.circle.fill");
     auto* label = new TextLabel(title);
-    label->setBuddy(sound);
     sound->setFixedWidth(soundWidth);
     play->setAccessibleName(tr("Play %1").arg(title));
 
@@ -290,16 +289,17 @@ QLayout* SettingsSheet::phaseMusic(const QString& title, const QString& otherTit
 QWidget* SettingsSheet::volumeSlider()
 {
     auto* percent = new TextLabel({}, TextStyle::body, ColorName::secondaryLabel);
-    auto* slider = new Slider(0, 1, 100);
+    auto* slider = new Slider(0, 100);
     slider->setAccessibleName(tr("Volume"));
+    slider->setAccessibleDescription(QStringLiteral("%"));
 
     connect(slider, &Slider::chosen, this,
-        [this](double volume) { assign(m_form.musicVolume, static_cast<float>(volume)); });
+        [this](int chosen) { assign(m_form.musicVolume, static_cast<float>(chosen / 100.0)); });
     m_readings.emplace_back([this, percent, slider] {
         auto number = QString::fromStdString(percentText(m_form.musicVolume()));
         number.chop(1);
         percent->setText(tr("%1%").arg(number));
-        slider->showValue(static_cast<double>(m_form.musicVolume()));
+        slider->showValue(100 * static_cast<double>(m_form.musicVolume()));
     });
     return box(column({.spacing = 6, .alignment = {}}, row({}, new TextLabel(tr("Volume")), spacer, percent), slider),
         controlWidth);

@@ -13,7 +13,7 @@ namespace {
 
 class TextInterface final : public QAccessibleWidget {
 public:
-    explicit TextInterface(AnimatedView* view) : QAccessibleWidget(view, QAccessible::StaticText) { }
+    explicit TextInterface(AnimatedView* view) : QAccessibleWidget(view, view->spokenRole()) { }
 
     QString text(QAccessible::Text kind) const override
     {

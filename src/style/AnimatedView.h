@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QAccessible>
 #include <QWidget>
 
 class QAccessibleInterface;
@@ -20,7 +21,8 @@ public:
 
     /// The text that is shown, or what stands for it.
     [[nodiscard]] virtual QString spokenText() const = 0;
-    /// Static text, unless overridden.
+    [[nodiscard]] virtual QAccessible::Role spokenRole() const { return QAccessible::StaticText; }
+    /// That text in that role, unless overridden.
     [[nodiscard]] virtual QAccessibleInterface* makeAccessible();
 
     bool event(QEvent* event) override;

@@ -29,11 +29,11 @@ public:
                                                    : QAccessibleWidget::interface_cast(type);
     }
 
-    QVariant currentValue() const override { return slider().shownValue(); }
+    QVariant currentValue() const override { return slider().sliderPosition(); }
     void setCurrentValue(const QVariant& value) override { slider().choose(value.toDouble()); }
-    QVariant maximumValue() const override { return slider().inUnits(slider().maximum()); }
-    QVariant minimumValue() const override { return slider().inUnits(slider().minimum()); }
-    QVariant minimumStepSize() const override { return slider().inUnits(1); }
+    QVariant maximumValue() const override { return slider().maximum(); }
+    QVariant minimumValue() const override { return slider().minimum(); }
+    QVariant minimumStepSize() const override { return 1; }
 
 private:
     Slider& slider() const { return *static_cast<Slider*>(widget()); }
@@ -47,12 +47,12 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
 
 } // namespace
 
-Slider::Slider(int minimum, int maximum, int stepsPerUnit) : QSlider(Qt::Horizontal), m_stepsPerUnit(stepsPerUnit)
+Slider::Slider(int minimum, int maximum) : QSlider(Qt::Horizontal)
 {
     QAccessible::installFactory(makeInterface);
-    setRange(minimum * stepsPerUnit, maximum * stepsPerUnit);
+    setRange(minimum, maximum);
     setFocusPolicy(Qt::StrongFocus);
-    connect(this, &QSlider::actionTriggered, this, [this] { emit chosen(shownValue()); });
+    connect(this, &QSlider::actionTriggered, this, [this] { emit chosen(sliderPosition()); });
 }
 
 void Slider::showValue(double value)
@@ -127,8 +127,8 @@ void Slider::wheelEvent(QWheelEvent* event)
 
 int Slider::positionOf(double value) const
 {
-    return static_cast<int>(std::lround(
-        std::clamp(value * m_stepsPerUnit, static_cast<double>(minimum()), static_cast<double>(maximum()))));
+    return static_cast<int>(
+        std::lround(std::clamp(value, static_cast<double>(minimum()), static_cast<double>(maximum()))));
 }
 
 double Slider::knobCenter() const
@@ -154,7 +154,7 @@ int Slider::positionAt(double x) const
 void Slider::moveTo(int position)
 {
     if (position == sliderPosition())
-        emit chosen(shownValue());
+        emit chosen(sliderPosition());
     else
         setSliderPosition(position);
 }

@@ -10,13 +10,10 @@ class Slider : public QSlider {
     Q_OBJECT
 
 public:
-    /// There are `stepsPerUnit` positions for each 1 between `minimum` and `maximum`.
-    Slider(int minimum, int maximum, int stepsPerUnit = 1);
+    Slider(int minimum, int maximum);
 
     /// Takes the knob to the position next to `value`, which may lie beyond either end, and tells nobody.
     void showValue(double value);
-    [[nodiscard]] double shownValue() const { return inUnits(sliderPosition()); }
-    [[nodiscard]] double inUnits(int position) const { return static_cast<double>(position) / m_stepsPerUnit; }
 
     /// As the hand does.
     void choose(double value) { moveTo(positionOf(value)); }
@@ -26,7 +23,7 @@ public:
 
 signals:
     /// The hand has put the knob to `value`, be it where it stood.
-    void chosen(double value);
+    void chosen(int value);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -41,7 +38,6 @@ private:
     [[nodiscard]] int positionAt(double x) const;
     void moveTo(int position);
 
-    int m_stepsPerUnit;
     double m_grabOffset = 0; ///< Where in the knob it is held.
 };
 

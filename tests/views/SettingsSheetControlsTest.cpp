@@ -126,18 +126,18 @@ TEST_F(SettingsSheetControlsTest, AssistiveTechnologyMovesASliderInTheUnitOfItsV
     auto* focus = QAccessible::queryAccessibleInterface(find<Slider>("Focus"))->valueInterface();
 
     EXPECT_EQ(volume->minimumValue().toDouble(), 0);
-    EXPECT_EQ(volume->maximumValue().toDouble(), 1);
-    EXPECT_EQ(volume->minimumStepSize().toDouble(), 0.01);
-    EXPECT_EQ(volume->currentValue().toDouble(), 1);
+    EXPECT_EQ(volume->maximumValue().toDouble(), 100);
+    EXPECT_EQ(volume->minimumStepSize().toDouble(), 1);
+    EXPECT_EQ(volume->currentValue().toDouble(), 100);
     EXPECT_EQ(focus->minimumValue().toDouble(), 25);
     EXPECT_EQ(focus->maximumValue().toDouble(), 120);
     EXPECT_EQ(focus->minimumStepSize().toDouble(), 1);
 
-    volume->setCurrentValue(0.53);
+    volume->setCurrentValue(53.0);
     focus->setCurrentValue(120.0);
     settle();
 
-    EXPECT_EQ(volume->currentValue().toDouble(), 0.53);
+    EXPECT_EQ(volume->currentValue().toDouble(), 53);
     EXPECT_TRUE(visibleTexts().contains("53%"));
     EXPECT_EQ(find<EditableNumberField>("Focus")->text(), "120");
     QTest::keyClick(sheet.get(), Qt::Key_Return);

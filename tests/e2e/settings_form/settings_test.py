@@ -221,7 +221,7 @@ class SettingsForm(unittest.TestCase):
         sheet.switch("Auto-Transition").press()
         sheet.switch("Enable music during break").press()
         wait_for(lambda: sheet.window.find_all("combo box", "Lo-Fi"), what="the presets")
-        sheet.slider("Volume").value = 0.6
+        sheet.slider("Volume").value = 60
         wait_for(lambda: sheet.window.find_all("label", "60%"), what="60%")
         sheet.button("Apply").press()
 
