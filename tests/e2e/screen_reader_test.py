@@ -1,0 +1,101 @@
+# SPDX-License-Identifier: MIT
+"""A session of somebody who sees nothing: Orca speaks, keys answer."""
+import shutil
+import time
+import unittest
+
+from desktop import VirtualDesktop, wait_for
+from screen_reader import ScreenReader
+
+
+@unittest.skipUnless(shutil.which("orca"), "Orca is not installed")
+class Spoken(unittest.TestCase):
+    def start(self, settings, environment=None):
+        self.desktop = self.enterContext(VirtualDesktop(wm="openbox"))
+        self.reader = ScreenReader(self.desktop)
+        self.velto = self.desktop.start_velto(settings, environment)
+        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
+        self.desktop.open_window("other")
+        self.reader.hear("other")
+
+    def press(self, *keys, hear=()):
+        self.desktop.key(*keys)
+        self.reader.hear(*hear)
+        time.sleep(0.3)  # as somebody who listens
+
+    def test_the_timer_the_form_and_the_windows_are_spoken(self):
+        self.start({})
+        self.press("ctrl+alt+v", hear=["velto", "Start"])
+        self.press("Return", hear=["Pause"])
+        self.press("space", hear=["Start"])
+        self.press("Tab", hear=["Reset"])
+        self.press("Return", hear=["Start"])
+
+        self.press("shift+F10")
+        self.press("Down", hear=["Start Focus"])
+        self.press("Up", hear=["Quit"])
+        self.press("Up", hear=["About velto"])
+        self.press("Up", hear=["How to Use"])
+        self.press("Up", hear=["Settings…"])
+        self.press("Return", hear=["Focus text"])
+        self.press("Tab", hear=["Focus slider 25", "minutes"])
+        self.press("Right", hear=["26"])
+        self.press("Tab", hear=["Break text"])
+        self.press("Tab", hear=["Break slider 5", "minutes"])
+        self.press("Tab", hear=["Auto-Transition check box not checked"])
+        self.press("space", hear=["checked"])
+        self.press("Tab", hear=["Tink combo box", "Countdown Tick"])
+        self.press("Tab", hear=["Play Countdown Tick"])
+        self.press("shift+Tab", hear=["Tink combo box"])
+        self.press("Return", hear=["velto", "Start"])
+        wait_for(lambda: self.velto.settings.get("focusMinutes") == 26, what="the applied form")
+
+        self.press("shift+F10")
+        self.press("Up", hear=["Quit"])
+        self.press("Up", hear=["About velto"])
+        self.press("Return", hear=["About velto dialog", "Support"])
+        self.press("Escape", hear=["other"])
+        self.press("ctrl+alt+v", hear=["Start"])
+        self.press("shift+F10")
+        self.press("Up", hear=["Quit"])
+        self.press("Return")
+        self.assertEqual(self.velto.wait(), 0)
+
+    def test_the_phase_is_spoken_when_it_ends_and_no_second_is(self):
+        self.start({"focusMinutes": 1})
+        self.press("ctrl+alt+v", hear=["Start"])
+        self.press("Return", hear=["Pause"])
+        before = len(self.reader.said())
+        wait_for(lambda: self.velto.time == "00:05", timeout=90)
+        self.assertEqual(self.reader.said()[before:], [])
+
+        wait_for(lambda: self.velto.phase == "Break", timeout=30)
+
+        self.reader.hear("Break")
+
+    def test_german_is_spoken(self):
+        self.start({}, {"LANGUAGE": "de"})
+        self.press("ctrl+alt+v", hear=["Starten"])
+        self.press("Return", hear=["Anhalten"])
+        self.press("space", hear=["Starten"])
+        self.press("Tab", hear=["Zurücksetzen"])
+        self.press("Return", hear=["Starten"])
+        self.press("shift+F10")
+        self.press("Up", hear=["Beenden"])
+        self.press("Up", hear=["Über velto"])
+        self.press("Up", hear=["Anleitung"])
+        self.press("Up", hear=["Einstellungen …"])
+        self.press("Return", hear=["Fokus text"])
+        self.press("Tab", hear=["Fokus slider 25", "Minuten"])
+        self.press("Tab", "Tab", hear=["Pause slider 5", "Minuten"])
+        self.press("Tab", hear=["Automatischer Wechsel check box not checked"])
+        self.press("Tab", hear=["Tink combo box", "Countdown-Ticken"])
+        self.press("Escape", hear=["Starten"])
+        self.press("shift+F10")
+        self.press("Up", hear=["Beenden"])
+        self.press("Return")
+        self.assertEqual(self.velto.wait(), 0)
+
+
+if __name__ == "__main__":
+    unittest.main()
