@@ -69,6 +69,24 @@ class Cost(unittest.TestCase):
         self.assertLess(of_velto[1], 1.5 * of_floor[1])
         self.assertLess(memory([velto.pid])[0], 2 * memory([floor.pid])[0])
 
+    def test_a_window_gives_its_memory_back(self):
+        velto = self.start_velto()
+
+        def after_the_form():
+            velto.item.choose("Settings…")
+            form = wait_for(lambda: next(window for window in velto.app.children if window.find_all("push button", "Cancel")),
+                            what="the form")
+            time.sleep(1)  # it is drawn; its caret goes on
+            form.find("push button", "Cancel").press()
+            wait_for(lambda: not velto.app.find_all("push button", "Cancel"), what="the form's end")
+            time.sleep(1)
+            return memory([velto.pid])[1]
+
+        first, *_, last = [after_the_form() for _ in range(3)]
+
+        print(f"\nprivate memory after the form: {first:.1f} MiB, at the third time {last:.1f} MiB")
+        self.assertLess(last, first + 0.5)
+
     def test_starts_as_fast_as_the_least_program(self):
         def seconds(start):
             begin = time.monotonic()

@@ -37,6 +37,7 @@
 #include <filesystem>
 #include <iostream>
 
+#include <malloc.h>
 #include <unistd.h>
 
 namespace velto {
@@ -122,6 +123,10 @@ int main(int argc, char* argv[])
 {
     // Standard output may have no reader any more.
     std::signal(SIGPIPE, SIG_IGN);
+#ifdef __GLIBC__
+    // What a window was drawn into goes back to the system with the window, instead of staying for the next one.
+    mallopt(M_MMAP_THRESHOLD, 128 * 1024);
+#endif
     if (const auto status = velto::answerBeforeStart(argc, argv))
         return *status;
 
