@@ -4,6 +4,7 @@ import re
 import subprocess
 import threading
 import time
+from bisect import bisect
 
 from machine import time_queued
 
@@ -59,9 +60,9 @@ class Countdown:
 
     def lateness(self):
         """How late each second came that continues the one before, on the wall clock: (without the time for which a
-        processor was missing, with it)."""
+        processor was missing, with it, when)."""
         heard, breaks, queued = list(self.heard), sorted(self._breaks), list(self._queued)
-        result, base, at, sample = [], None, 0, 0
+        result, base, at = [], None, 0
         for (before, more), (when, left) in zip(heard, heard[1:]):
             while at < len(breaks) and breaks[at][1] < before:
                 at += 1
@@ -72,11 +73,9 @@ class Countdown:
             if base is None:
                 base = before + more / self._speed
             due = base - left / self._speed
-            while sample + 1 < len(queued) and queued[sample][0] < when:
-                sample += 1
-            first = max(0, sample - 6)
-            held_up = max(0, queued[sample][1] - queued[first][1])  # less when a thread has ended
             late = when - due
             base = min(base, base + late)  # the earliest was in time
-            result.append((late - held_up, late))
+            samples = [bisect(queued, moment, key=lambda sample: sample[0]) for moment in (due - _MOMENT, when)]
+            first, last = (queued[min(sample, len(queued) - 1)][1] for sample in samples)
+            result.append((late - max(0, last - first), late, when))  # less when a thread has ended
         return result

@@ -176,9 +176,11 @@ class Day(unittest.TestCase):
 
     def act(self):
         is_stopping = self.random.random() < 0.25
+        action = self.random.choice(self.STOPPING if is_stopping else self.OTHER)
         begin = time.time()
+        self.done.append((begin, action.__name__))
         try:
-            self.random.choice(self.STOPPING if is_stopping else self.OTHER)(self)
+            action(self)
         except (LookupError, GLib.Error, AssertionError) as error:
             self.missed.append(repr(error))
         if is_stopping:
@@ -222,7 +224,7 @@ class Day(unittest.TestCase):
     NEIGHBOURS = (lose_bar, lose_bus, lose_sound_server, lose_window_manager, change_screens)
 
     def test_a_day(self):
-        self.missed, losses, actions = [], 0, 0
+        self.missed, self.done, losses, actions = [], [], 0, 0
         usage = Usage(self.velto.pid, self.desktop.display)
         begin = time.monotonic()
         self.start()
@@ -240,6 +242,7 @@ class Day(unittest.TestCase):
                 self.velto.printed  # nothing is to be stuck in the pipe
             neighbour = self.random.choice(self.NEIGHBOURS)
             loss = neighbour(self)
+            self.done.append((time.time(), neighbour.__name__))
             next(loss)
             time.sleep(self.random.uniform(0.1, 2))
             if neighbour not in (type(self).lose_bus, type(self).lose_bar):
@@ -260,12 +263,17 @@ class Day(unittest.TestCase):
         except (LookupError, GLib.Error):
             pass
 
+    def done_before(self, moment):
+        """The last three things done, and how many seconds before."""
+        return [f"{name} {moment - begin:.1f}" for begin, name in self.done if begin <= moment][-3:]
+
     def report(self, usage, summary):
         lateness = self.countdown.lateness()
         early, late = usage.within(SETTLED, 2 * SETTLED), usage.within(PHASES - SETTLED, PHASES)
         least = usage.within(SETTLED, 2 * SETTLED, min), usage.within(PHASES - SETTLED, PHASES, min)
         print(f"\n{summary}\n{len(self.countdown.heard)} seconds heard, of {len(lateness)} the latest by "
-              f"{max(raw for _, raw in lateness):.3f} s, {max(lateness)[0]:.3f} s without waiting for a processor\nmedian after {SETTLED} phases {early}\nmedian at the end {late}\n"
+              f"{max(raw for _, raw, _ in lateness):.3f} s, {max(lateness)[0]:.3f} s without waiting for a processor, "
+              f"while it did {self.done_before(max(lateness)[2])}\nmedian after {SETTLED} phases {early}\nmedian at the end {late}\n"
               f"least after {SETTLED} phases {least[0]}\nleast at the end {least[1]}", flush=True)
         for error in sorted(set(self.missed)):
             print(f"missed: {error}", flush=True)
