@@ -74,10 +74,10 @@ class Cost(unittest.TestCase):
 
         def after_the_form():
             velto.item.choose("Settings…")
-            form = wait_for(lambda: next(window for window in velto.app.children if window.find_all("push button", "Cancel")),
-                            what="the form")
+            forms = wait_for(lambda: [form for form in velto.app.children if form.find_all("push button", "Cancel")],
+                             what="the form")
             time.sleep(1)  # it is drawn; its caret goes on
-            form.find("push button", "Cancel").press()
+            forms[0].find("push button", "Cancel").press()
             wait_for(lambda: not velto.app.find_all("push button", "Cancel"), what="the form's end")
             time.sleep(1)
             return memory([velto.pid])[1]
