@@ -126,6 +126,20 @@ class FromRightToLeft(unittest.TestCase):
         wait_for(lambda: self.velto.time == "24:58")
 
 
+class TheMenuFromRightToLeft(unittest.TestCase):
+    def test_it_ends_where_the_strip_does(self):
+        with VirtualDesktop(host="none") as desktop:
+            velto = desktop.start_velto({}, {"LANGUAGE": "ar"})
+            wait_for(lambda: velto.card_is_visible, what="the card, shown at launch")
+            x, _, width, _ = wait_for(lambda: velto.strip, what="the strip").rectangle
+
+            desktop.click(*velto.strip.middle, 3)
+
+            wait_for(lambda: velto.app.find("menu item", "أنهِ"), what="the menu")
+            menu_x, _, menu_width, _ = velto.app.find("popup menu").rectangle
+            self.assertEqual(menu_x + menu_width, x + width)
+
+
 class WhoseLanguage(unittest.TestCase):
     def menu(self, **environment):
         with VirtualDesktop(host="press", wm="none") as desktop:

@@ -9,6 +9,7 @@
 #include "style/Translation.h"
 
 #include <QAction>
+#include <QGuiApplication>
 #include <QScreen>
 
 #include <algorithm>
@@ -38,8 +39,8 @@ QPoint placeMenu(const QSize& size, const QRect& anchor)
     const auto usable = screen ? screen->availableGeometry() : QRect(QPoint(), size);
     const int below = anchor.bottom() + 1;
     const int y = below + size.height() <= usable.bottom() + 1 ? below : anchor.top() - size.height();
-    const int x = std::min(anchor.left(), usable.right() + 1 - size.width());
-    return {std::max(x, usable.left()), std::max(y, usable.top())};
+    const int x = QGuiApplication::isRightToLeft() ? anchor.right() + 1 - size.width() : anchor.left();
+    return {std::max(std::min(x, usable.right() + 1 - size.width()), usable.left()), std::max(y, usable.top())};
 }
 
 } // namespace
