@@ -37,7 +37,9 @@
 #include <filesystem>
 #include <iostream>
 
+#ifdef __GLIBC__
 #include <malloc.h>
+#endif
 #include <unistd.h>
 
 namespace velto {

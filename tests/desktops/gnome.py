@@ -1,8 +1,7 @@
 # SPDX-License-Identifier: MIT
 """GNOME Shell on Wayland, without an extension, as Debian installs it."""
-import json
-
-from desktop import Desktop, Window
+from desktop import Desktop
+from shell import Shell
 
 _DEVICES = """
 const {Clutter, GLib} = imports.gi;
@@ -16,7 +15,8 @@ const now = () => GLib.get_monotonic_time();
 _KEYS = {"Escape": 0xff1b, "Return": 0xff0d, "Tab": 0xff09, "Up": 0xff52}
 
 
-class Gnome(Desktop):
+class Gnome(Shell, Desktop):
+    BUS_NAME = "org.gnome.Shell"
     PACKAGES = ["gnome-shell"]
     HAS_STRIP = True
     START = """
@@ -34,17 +34,16 @@ wait
 """
 
     def prepare(self):
-        self._evaluate("imports.ui.main.overview.hide()")
+        self.evaluate("imports.ui.main.overview.hide()")
 
-    def _evaluate(self, script):
-        printed = self.session.run("python3", "-c", _EVALUATE, _DEVICES + script)
-        return json.loads(printed)
+    def evaluate(self, script):
+        return super().evaluate(_DEVICES + script)
 
     def click(self, x, y, button=1):
         for move in (x - 1, x):
-            self._evaluate(f"global._pointer.notify_absolute_motion(now(), {move}, {y}); 1")
+            self.evaluate(f"global._pointer.notify_absolute_motion(now(), {move}, {y}); 1")
         for state in ("PRESSED", "RELEASED"):
-            self._evaluate(f"global._pointer.notify_button(now(), {button}, Clutter.ButtonState.{state}); 1")
+            self.evaluate(f"global._pointer.notify_button(now(), {button}, Clutter.ButtonState.{state}); 1")
 
     def type(self, text):
         for letter in text:
@@ -54,8 +53,8 @@ wait
         self._press(_KEYS[name])
 
     def _press(self, symbol):
-        self._evaluate(f"""for (const state of [Clutter.KeyState.PRESSED, Clutter.KeyState.RELEASED])
-                               global._keyboard.notify_keyval(now(), {symbol}, state); 1""")
+        self.evaluate(f"""for (const state of [Clutter.KeyState.PRESSED, Clutter.KeyState.RELEASED])
+                              global._keyboard.notify_keyval(now(), {symbol}, state); 1""")
 
     def picture(self, path):
         self.session.run("gdbus", "call", "--session", "--dest", "org.gnome.Shell.Screenshot", "--object-path",
@@ -63,13 +62,6 @@ wait
                          "false", "/tmp/picture.png")
         with open(path, "wb") as file:
             file.write(self.session.run_bytes("cat", "/tmp/picture.png"))
-
-    def windows(self):
-        return [Window(title or "", tuple(rectangle), focused) for title, rectangle, focused in self._evaluate("""
-            global.get_window_actors().filter(actor => actor.visible).map(actor => {
-                const window = actor.meta_window, r = window.get_frame_rect();
-                return [window.title, [r.x, r.y, r.width, r.height], window.has_focus()];
-            })""")]
 
     @property
     def strip_menu(self):
@@ -80,15 +72,3 @@ wait
         x, y, width, height = next(window.rectangle for window in self.windows()
                                    if window.title == "velto" and window.rectangle[3] < 60)
         return x + width // 2, y + height // 2
-
-
-_EVALUATE = """
-import json, sys
-from gi.repository import Gio, GLib
-bus = Gio.bus_get_sync(Gio.BusType.SESSION)
-ok, result = bus.call_sync("org.gnome.Shell", "/org/gnome/Shell", "org.gnome.Shell", "Eval",
-                           GLib.Variant("(s)", (sys.argv[1],)), None, 0, 10000, None).unpack()
-if not ok:
-    sys.exit(result)
-print(result or "null")
-"""

@@ -1,12 +1,10 @@
 # SPDX-License-Identifier: MIT
 """Plasma, on X11 and on Wayland."""
 import json
-import os
-import subprocess
 
-from desktop import Desktop, Window
-from root import PROJECT
+from desktop import Window
 from waiting import wait_for
+from wayland import WaylandDesktop
 from x11 import X11Desktop
 
 _SHELL = """
@@ -63,6 +61,7 @@ class _Plasma:
         libwayland-dev libwayland-bin plasma-wayland-protocols""".split()
 
     def prepare(self):
+        super().prepare()
         wait_for(lambda: self.window("Plasma"), what="the panel")
 
     def windows(self):
@@ -80,7 +79,9 @@ kwin_x11 &
 """ + _SHELL
 
 
-class PlasmaWayland(_Plasma, Desktop):
+class PlasmaWayland(_Plasma, WaylandDesktop):
+    INPUT = "plasma_input.c"
+    PROTOCOL = "/usr/share/plasma-wayland-protocols/fake-input.xml"
     START = """
 export XDG_CURRENT_DESKTOP=KDE XDG_SESSION_TYPE=wayland LIBGL_ALWAYS_SOFTWARE=1
 export KWIN_WAYLAND_NO_PERMISSION_CHECKS=1 KWIN_SCREENSHOT_NO_PERMISSION_CHECKS=1
@@ -100,27 +101,6 @@ until [ -S $XDG_RUNTIME_DIR/wayland-0 ] && ls /tmp/.X11-unix/X*; do sleep 0.2; d
 export WAYLAND_DISPLAY=wayland-0 DISPLAY=$(ls /tmp/.X11-unix | grep -v _ | sed 's/X/:/' | head -1)
 """ + _SHELL.replace("plasmashell &", "QT_QPA_PLATFORM=wayland plasmashell &")
 
-    _BUILD_INPUT = """
-cd /tmp
-protocol=/usr/share/plasma-wayland-protocols/fake-input.xml
-wayland-scanner client-header $protocol fake_input.h
-wayland-scanner private-code $protocol protocol.c
-cc -I. -o input "$0/plasma_input.c" protocol.c -lwayland-client
-"""
-
-    def prepare(self):
-        super().prepare()
-        self.session.run("sh", "-c", self._BUILD_INPUT, os.path.join(PROJECT, "tests", "desktops"))
-        self._input = self.session.start("/tmp/input", stdin=subprocess.PIPE)
-
-    def _send(self, *commands):
-        self._input.stdin.write("".join(command + "\n" for command in commands))
-        self._input.stdin.flush()
-
-    def click(self, x, y, button=1):
-        number = {1: 0, 2: 2, 3: 1}[button]
-        self._send(f"m {x - 1} {y}", "s 100", f"m {x} {y}", "s 200", f"d {number}", "s 80", f"u {number}")
-
     def type(self, text):
         for letter in text:
             self._press(_CODES[letter])
@@ -129,7 +109,7 @@ cc -I. -o input "$0/plasma_input.c" protocol.c -lwayland-client
         self._press(_CODES[name])
 
     def _press(self, code):
-        self._send(f"p {code}", "s 20", f"r {code}")
+        self.send(f"p {code}", "s 20", f"r {code}")
 
     def picture(self, path):
         with open(path, "wb") as file:

@@ -1,21 +1,14 @@
 # SPDX-License-Identifier: MIT
 """sway with Waybar. sway does not run as root, and gives input only where there is a pointer and a keyboard."""
 import json
-import os
-import subprocess
 
-from desktop import Desktop, Window
-from root import PROJECT
-
-_BUILD_POINTER = """
-cd /tmp
-wayland-scanner client-header "$0/sway_pointer.xml" sway_pointer.h
-wayland-scanner private-code "$0/sway_pointer.xml" protocol.c
-cc -I. -o pointer "$0/sway_pointer.c" protocol.c -lwayland-client
-"""
+from desktop import Window
+from wayland import WaylandDesktop
 
 
-class Sway(Desktop):
+class Sway(WaylandDesktop):
+    INPUT = "sway_pointer.c"
+    PROTOCOL = WaylandDesktop.FOLDER + "/sway_pointer.xml"
     PACKAGES = "sway waybar wtype grim gcc libc6-dev libwayland-dev libwayland-bin".split()
     USER = 1000
     PLACES_CARDS = False
@@ -37,17 +30,8 @@ exec sway
 """
 
     def prepare(self):
-        self.session.run("sh", "-c", _BUILD_POINTER, os.path.join(PROJECT, "tests", "desktops"))
-        self._pointer = self.session.start("/tmp/pointer", stdin=subprocess.PIPE)
+        super().prepare()
         self.session.start("wtype", "-s", "36000000")
-
-    def _point(self, *commands):
-        self._pointer.stdin.write("".join(command + "\n" for command in commands))
-        self._pointer.stdin.flush()
-
-    def click(self, x, y, button=1):
-        number = {1: 0, 2: 2, 3: 1}[button]
-        self._point(f"m {x - 1} {y}", "s 100", f"m {x} {y}", "s 200", f"d {number}", "s 80", f"u {number}")
 
     def type(self, text):
         self.session.run("wtype", "-d", "20", text)
