@@ -41,6 +41,7 @@ class TheInstalledTree(unittest.TestCase):
     def test_it_holds_the_program_and_what_a_desktop_asks_for(self):
         for name in ("bin/velto", "libexec/velto-stream", f"share/applications/{ID}.desktop",
                      f"share/metainfo/{ID}.metainfo.xml", "share/man/man1/velto.1",
+                     "share/man/de/man1/velto.1", "share/man/zh_CN/man1/velto.1",
                      f"share/icons/hicolor/scalable/apps/{ID}.svg", f"share/icons/hicolor/48x48/apps/{ID}.png",
                      f"share/icons/hicolor/symbolic/apps/{ID}-symbolic.svg"):
             with self.subTest(name):

@@ -23,6 +23,23 @@ def read(path):
         return file.read()
 
 
+def manual(path):
+    """What each paragraph of a manual page is, and its text: requests with the names in bold and italics, which stay."""
+    free = ("SH", "SS", "BR")  # titles and keys
+    page = []
+    for line in read(path).splitlines():
+        macro, _, rest = line[1:].partition(" ")
+        if not line.startswith("."):
+            page[-1][1] += " " + line
+        elif macro == "TH":
+            page.append([line[:line.rindex(' "')], line])
+        elif macro in free and not rest.endswith("(1)"):
+            page.append([macro, rest])
+        else:
+            page.append([line, ""])
+    return page
+
+
 def entries(path):
     """(source, translation) of each message; each plural form is one."""
     for message in ElementTree.parse(path).iter("message"):
@@ -80,6 +97,40 @@ class Catalogues(unittest.TestCase):
                     if tag != "keyword":
                         self.assertEqual([said.count(language) for language in languages],
                                          [said.count(None)] * len(languages), tag)
+
+    def test_the_manual_page_is_in_every_language(self):
+        def names(text):
+            return sorted(set(re.findall(r"\b(?:Qt|GNOME|XML|XWayland|F10)\b|\d+|velto", text, re.ASCII)))
+
+        english = manual(PACKAGING + "/man/man1/velto.1")
+        for language in LANGUAGES:
+            path = f"{PACKAGING}/man/{language}/man1/velto.1"
+            page = manual(path)
+            self.assertEqual([what for what, _ in page], [what for what, _ in english], path)
+            for (_, text), (_, source) in zip(page, english):
+                self.assertEqual(names(text), names(source), (path, source))
+                self.assertEqual(bool(text), bool(source), (path, source))
+                self.assertEqual(len(re.findall("[.。]( |$)", text)), len(re.findall(r"\.( |$)", source)), (path, source))
+                if len(source) > 20:
+                    self.assertNotEqual(text, source, path)
+
+    def test_the_manual_page_has_the_name_of_the_desktop_entry(self):
+        entry = read(PACKAGING + "/org.velto.Velto.desktop")
+        for language in LANGUAGES:
+            generic = re.search(rf"^GenericName\[{language}\]=(.*)", entry, re.MULTILINE).group(1)
+            what = re.search(r"^velto \\- (.*)", read(f"{PACKAGING}/man/{language}/man1/velto.1"), re.MULTILINE).group(1)
+            self.assertIn(generic.casefold(), what.casefold())
+
+    @unittest.skipUnless(shutil.which("man"), "no man")
+    def test_each_manual_page_is_shown_without_a_warning(self):
+        pages = glob.glob(PACKAGING + "/man/**/velto.1", recursive=True)
+        self.assertEqual(len(pages), 1 + len(LANGUAGES))
+        for page in pages:
+            shown = subprocess.run(["man", "--warnings", "-E", "UTF-8", "-l", page], text=True, check=True, timeout=60,
+                                   stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+                                   env={**os.environ, "LC_ALL": "C.UTF-8", "MANWIDTH": "80"})
+            self.assertIn("velto", shown.stdout)
+            self.assertEqual(shown.stderr, "", page)
 
 
 if __name__ == "__main__":
