@@ -21,7 +21,7 @@ class ClickStories:
         self.desktop.click_item()
         wait_for(lambda: not self.velto.card_is_visible, what="the card hidden by the item")
 
-    def test_a_click_shows_and_a_second_one_hides_fifty_times(self):
+    def test_a_click_shows_it_and_the_next_hides_it_fifty_times(self):
         self.hide()
         for turn in range(50):
             self.desktop.click_item()
@@ -59,7 +59,7 @@ class ClickStories:
         wait_for(lambda: not self.velto.card_is_visible)
         holds(lambda: not self.velto.card_is_visible, 0.5)
 
-    def test_a_click_in_the_card_leaves_it(self):
+    def test_a_click_in_the_card_keeps_it(self):
         x, y, width, height = self.velto.card.rectangle
 
         for place in ((x + 20, y + height // 2), (x + width // 2, y + 40),
@@ -68,7 +68,7 @@ class ClickStories:
             holds(lambda: self.velto.card_is_visible, 0.4, f"the card after a click at {place}")
         wait_for(lambda: self.velto.controls == ["Pause", "Reset"], what="the click on Start")
 
-    def test_showing_it_takes_the_focus_from_no_window(self):
+    def test_showing_it_takes_no_focus(self):
         self.hide()
         field = self.desktop.open_window("other")
         focused = self.desktop.focused_window

@@ -24,7 +24,7 @@ class Counting(unittest.TestCase):
         self.assertTrue(self.velto.card.find_all(name="velto"))
         holds(lambda: self.velto.time == "25:00", 1.5, "a timer at rest")
 
-    def test_pause_holds_what_is_left(self):
+    def test_pause_keeps_the_remaining_time(self):
         self.velto.press("Start")
         wait_for(lambda: self.velto.time <= "24:58")
 
@@ -52,7 +52,7 @@ class Counting(unittest.TestCase):
 
         wait_for(lambda: self.velto.time == "25:00" and self.velto.controls == ["Start"])
 
-    def test_the_controls_take_three_forms(self):
+    def test_the_controls_have_three_forms(self):
         self.assertEqual(self.velto.controls, ["Start"])
 
         self.velto.press("Start")
@@ -95,7 +95,7 @@ class EverySecond(unittest.TestCase):
 
         self.assertEqual(self.announced(5)[:5], ["24:59", "24:58", "24:57", "24:56", "24:55"])
 
-    def test_start_goes_on_where_pause_held(self):
+    def test_start_resumes_after_pause(self):
         self.velto.press("Start")
         self.announced(2)
         self.velto.press("Pause")

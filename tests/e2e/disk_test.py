@@ -41,7 +41,7 @@ class ABusyDisk(unittest.TestCase):
         print(f"the longest tick: {max(gaps):.3f} s")
         self.assertLess(max(gaps), 1.05 + held_up.seconds)
 
-    def test_quit_waits_five_seconds_for_it_and_says_so(self):
+    def test_delays_quitting_by_five_seconds_at_most_and_is_reported(self):
         velto = self.start(sync_ms=60_000)
         velto.item.choose("Auto-Transition")
 
@@ -53,7 +53,7 @@ class ABusyDisk(unittest.TestCase):
         self.assertEqual(self.desktop.log("velto"),
                          f"velto: settings not saved: {self.desktop.settings_file}: no answer for 5 s\n")
 
-    def test_quit_waits_for_the_last_write(self):
+    def test_quitting_waits_for_the_last_write(self):
         velto = self.start(sync_ms=1000)
         velto.item.choose("Auto-Transition")
         velto.item.choose("Break Duration", "15 minutes")
@@ -64,7 +64,7 @@ class ABusyDisk(unittest.TestCase):
         self.assertEqual(velto.settings["breakMinutes"], 15)
         self.assertTrue(velto.settings["autoTransition"])
 
-    def test_the_last_write_is_waited_for_also_when_the_x_server_goes(self):
+    def test_the_end_of_the_x_server_waits_for_the_last_write(self):
         velto = self.start(sync_ms=1000)
         velto.item.choose("Auto-Transition")
         wait_for(lambda: velto.item.menu().find("Auto-Transition").checked, what="the choice")

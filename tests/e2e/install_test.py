@@ -38,7 +38,7 @@ def tree(folder):
 
 
 class TheInstalledTree(unittest.TestCase):
-    def test_it_holds_the_program_and_what_a_desktop_asks_for(self):
+    def test_it_has_the_programs_and_the_files_of_the_desktop(self):
         for name in ("bin/velto", "libexec/velto-stream", f"share/applications/{ID}.desktop",
                      f"share/metainfo/{ID}.metainfo.xml", "share/man/man1/velto.1",
                      "share/man/de/man1/velto.1", "share/man/zh_CN/man1/velto.1",
@@ -56,7 +56,7 @@ class TheInstalledTree(unittest.TestCase):
                 result = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
                 self.assertEqual(result.returncode, 0, result.stdout.decode())
 
-    def test_its_newest_release_is_the_version_that_is_built(self):
+    def test_its_newest_release_is_this_version(self):
         with open(os.path.join(ROOT, "CMakeLists.txt"), encoding="utf-8") as file:
             version = re.search(r"project\(velto VERSION (\S+)", file.read()).group(1)
 
@@ -64,7 +64,7 @@ class TheInstalledTree(unittest.TestCase):
 
         self.assertEqual(release.get("version"), version)
 
-    def test_each_screenshot_it_names_is_there_in_the_size_that_it_tells(self):
+    def test_its_screenshots_exist_in_the_given_sizes(self):
         images = xml.etree.ElementTree.parse(f"{prefix}/share/metainfo/{ID}.metainfo.xml").findall(".//image")
 
         self.assertGreater(len(images), 2)
@@ -95,30 +95,30 @@ class TheInstalledPrograms(unittest.TestCase):
     def setUp(self):
         self.programs = [os.path.join(prefix, name) for name in ("bin/velto", "libexec/velto-stream")]
 
-    def test_they_stand_anywhere_in_memory(self):
+    def test_are_position_independent(self):
         for program in self.programs:
             self.assertRegex(output("readelf", "--dynamic", program), r"FLAGS_1.*\bPIE\b")
 
-    def test_what_they_are_linked_to_cannot_be_redirected(self):
+    def test_have_read_only_relocations(self):
         for program in self.programs:
             self.assertIn("GNU_RELRO", output("readelf", "--segments", program))
             self.assertRegex(output("readelf", "--dynamic", program), r"FLAGS_1.*\bNOW\b")
 
-    def test_their_stack_holds_no_code(self):
+    def test_have_no_executable_stack(self):
         for program in self.programs:
             self.assertRegex(output("readelf", "--segments", "--wide", program), r"GNU_STACK.* RW +0x")
 
-    def test_a_stack_that_was_written_over_ends_them(self):
+    def test_abort_when_their_stack_is_overwritten(self):
         for program in self.programs:
             self.assertIn("__stack_chk_fail", output("readelf", "--dyn-syms", "--wide", program))
 
     @unittest.skipUnless(platform.machine() == "x86_64", "a protection of another processor")
-    def test_calls_and_jumps_end_where_they_may(self):
+    def test_check_the_targets_of_jumps(self):
         for program in self.programs:
             code = output("objdump", "--disassemble", "--no-show-raw-insn", program)
             self.assertRegex(code, r"<main>:\n[^\n]*\bendbr64")
 
-    def test_every_source_was_compiled_with_what_leaves_no_trace(self):
+    def test_were_compiled_with_the_flags_that_leave_no_trace(self):
         with open(os.path.join(build, "CMakeCache.txt"), encoding="utf-8") as file:
             optimised = "CMAKE_BUILD_TYPE:STRING=Release" in file.read()
         with open(os.path.join(build, "compile_commands.json"), encoding="utf-8") as file:
@@ -130,7 +130,7 @@ class TheInstalledPrograms(unittest.TestCase):
 
 
 class Uninstalling(unittest.TestCase):
-    def test_nothing_is_left_and_nothing_else_is_gone(self):
+    def test_leaves_nothing_and_removes_nothing_else(self):
         folder = self.enterContext(tempfile.TemporaryDirectory(prefix="velto-uninstalled-"))
         os.makedirs(os.path.join(folder, "bin"))
         os.makedirs(os.path.join(folder, "share/applications"))

@@ -63,7 +63,7 @@ class TheMenu(unittest.TestCase):
         wait_for(lambda: self.checked("Current Phase") == ["Break"])
         self.assertTrue(self.velto.item.menu().find("Start Break"))
 
-    def test_music_is_marked_by_what_is_chosen(self):
+    def test_the_chosen_music_is_marked(self):
         self.assertEqual(self.checked("Focus Music"), ["None"])
 
         self.velto.item.choose("Focus Music", "Groove Salad")

@@ -30,7 +30,7 @@ class PhaseEnds(unittest.TestCase):
         holds(lambda: self.velto.time == "03:00", 1.5, "the break at rest")
         self.assertEqual(self.velto.settings["focusMinutes"], 0)
 
-    def test_a_phase_of_one_minute_ends_on_the_tick_after_zero_and_shows_the_hidden_card(self):
+    def test_a_phase_ends_on_the_tick_after_zero_and_shows_the_card(self):
         with VirtualDesktop(host="press") as labelled:
             velto = labelled.start_velto({"focusMinutes": 1})
             wait_for(lambda: velto.card_is_visible)

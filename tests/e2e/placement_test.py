@@ -28,34 +28,34 @@ class Placement(unittest.TestCase):
         self.assertAlmostEqual(card[0] + WIDTH / 2, item[0] + item[2] / 2, delta=1)
         self.assertEqual(card[1], item[1] + item[3] + GAP)
 
-    def test_the_right_edge_of_the_screen_holds_it(self):
+    def test_it_stays_within_the_right_edge_of_the_screen(self):
         item, card = self.card_after_a_click(host="xfce")
 
         self.assertGreater(item[0] + item[2] / 2 + WIDTH / 2, 1280)
         self.assertEqual(card[0], 1280 - WIDTH)
         self.assertAlmostEqual(card[1], item[1] + item[3] + GAP, delta=2)
 
-    def test_on_a_monitor_left_of_and_below_the_main_one_it_stays_there(self):
+    def test_it_stays_on_a_monitor_left_of_and_below_the_main_one(self):
         item, card = self.card_after_a_click(host="press", wm="none", size=(1280 + 400, 1000), bar_monitor=1,
                                              monitors=[(1280, 800, 400, 0), (400, 768, 0, 232)])
 
         self.assertAlmostEqual(card[0] + WIDTH / 2, item[0] + item[2] / 2, delta=1)
         self.assertEqual(card[1], 232 + item[3] + GAP)
 
-    def test_the_edge_of_its_monitor_holds_it_though_another_one_follows(self):
+    def test_it_stays_on_its_monitor_beside_another(self):
         item, card = self.card_after_a_click(host="press", wm="none", size=(1280 + 380, 1000), bar_monitor=1,
                                              monitors=[(1280, 800, 300, 0), (300, 768, 0, 232)])
 
         self.assertEqual(card[:2], (0, 232 + item[3] + GAP))  # the left edge wins where there is no room
 
-    def test_with_the_bar_on_the_main_monitor_it_stays_there(self):
+    def test_it_stays_on_the_main_monitor_with_the_bar(self):
         item, card = self.card_after_a_click(host="xfce", size=(2304, 1000),
                                              monitors=[(1280, 800, 0, 0), (1024, 768, 1280, 232)])
 
         self.assertEqual(card[0], 1280 - WIDTH)
         self.assertAlmostEqual(card[1], item[1] + item[3] + GAP, delta=2)
 
-    def test_twice_the_pixels_make_the_card_twice_as_large(self):
+    def test_at_twice_the_pixels_it_is_twice_as_large(self):
         item, card = self.card_after_a_click(host="xfce", scale=2, size=(1920, 1200))
 
         self.assertEqual(card[2:], (2 * WIDTH, 2 * HEIGHT))

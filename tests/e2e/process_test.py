@@ -22,7 +22,7 @@ class TheProcess(unittest.TestCase):
         wait_for(lambda: velto.card_is_visible, what="the card, shown at launch")
         return velto
 
-    def test_a_second_launch_shows_the_card_of_the_first_and_ends_well(self):
+    def test_a_second_launch_shows_the_first_ones_card_and_succeeds(self):
         velto = self.start({})
         velto.press("Start")
         desktop.click_item()
@@ -42,7 +42,7 @@ class TheProcess(unittest.TestCase):
         wait_for(lambda: not velto.card_is_visible, what="the hidden card")
         wait_for(lambda: other.has_state("focused"), what="the keyboard back in the other window")
 
-    def test_a_second_launch_leaves_a_visible_card(self):
+    def test_a_second_launch_keeps_a_visible_card(self):
         velto = self.start({})
 
         self.assertEqual(desktop.start_velto(ready=False).wait(), 0)
@@ -57,14 +57,14 @@ class TheProcess(unittest.TestCase):
         self.assertIn('("velto" "org.velto.Velto")', tree)
         self.assertNotIn('("velto" "velto")', tree)
 
-    def test_quit_ends_it_well(self):
+    def test_quit_succeeds(self):
         velto = self.start({})
 
         velto.item.choose("Quit")
 
         self.assertEqual(velto.wait(), 0)
 
-    def test_it_ends_well_within_a_second_when_it_is_told_to(self):
+    def test_a_signal_ends_it_within_a_second(self):
         for chosen_signal in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
             with self.subTest(signal=chosen_signal):
                 velto = self.start({})
@@ -82,7 +82,7 @@ class TheProcess(unittest.TestCase):
         return subprocess.run([desktop.program, *arguments], capture_output=True, text=True, timeout=20,
                               env={name: value for name, value in changed.items() if value is not None})
 
-    def test_without_a_display_it_says_so_in_one_line(self):
+    def test_without_a_display_it_fails_with_one_line(self):
         for display in (None, ":977"):
             with self.subTest(display=display):
                 result = self.run_alone(DISPLAY=display, QT_QPA_PLATFORM=None)
@@ -90,7 +90,7 @@ class TheProcess(unittest.TestCase):
                 self.assertEqual((result.returncode, result.stdout), (1, ""))
                 self.assertRegex(result.stderr, r"\Avelto: there is no display.*\n\Z")
 
-    def test_it_answers_two_questions_also_without_a_display(self):
+    def test_version_and_help_need_no_display(self):
         version = self.run_alone("--version", DISPLAY=None)
         self.assertEqual((version.returncode, version.stderr), (0, ""))
         self.assertRegex(version.stdout, r"\Avelto \d+\.\d+\.\d+\n\Z")
@@ -99,7 +99,7 @@ class TheProcess(unittest.TestCase):
         self.assertEqual((usage.returncode, usage.stderr), (0, ""))
         self.assertIn("Usage: velto\n", usage.stdout)
 
-    def test_it_refuses_arguments_that_nobody_knows(self):
+    def test_it_refuses_unknown_arguments(self):
         for arguments in (["--colour"], ["25"], ["--version", "--help"]):
             with self.subTest(arguments=arguments):
                 result = self.run_alone(*arguments)
@@ -107,7 +107,7 @@ class TheProcess(unittest.TestCase):
                 self.assertEqual((result.returncode, result.stdout), (2, ""))
                 self.assertRegex(result.stderr, rf"\Avelto: unknown argument {arguments[0]} .*\n\Z")
 
-    def test_it_runs_without_x11_where_the_user_wants_it_to(self):
+    def test_it_runs_without_x11_if_told_to(self):
         environment = desktop.environment | {"QT_QPA_PLATFORM": "offscreen"}
         del environment["DISPLAY"]
         velto = subprocess.Popen([desktop.program], env=environment)
@@ -143,7 +143,7 @@ class TheProcess(unittest.TestCase):
 
         self.assertEqual(stat.S_IMODE(os.stat(desktop.settings_file).st_mode), 0o600)
 
-    def test_a_file_that_is_no_property_list_is_moved_aside(self):
+    def test_a_broken_settings_file_is_moved_aside(self):
         self.start({}).kill()
         with open(desktop.settings_file, "w", encoding="utf-8") as file:
             file.write("not a property list")

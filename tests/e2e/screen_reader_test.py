@@ -69,7 +69,7 @@ class Spoken(unittest.TestCase):
         self.press("Return")
         self.assertEqual(self.velto.wait(), 0)
 
-    def test_the_phase_is_spoken_when_it_ends_and_no_second_is(self):
+    def test_the_end_of_a_phase_is_spoken_but_no_seconds(self):
         self.start({"focusMinutes": 1})
         self.press("ctrl+alt+v", hear=["Start"])
         self.press("Return", hear=["Pause"])

@@ -26,7 +26,7 @@ class EndOfSession(unittest.TestCase):
     def tell(self, command):
         self.manager.stdin.write(command + "\n")
 
-    def test_it_ends_well_within_a_second_whatever_is_shown(self):
+    def test_ends_it_within_a_second_whatever_is_shown(self):
         for entries in (["About velto"], ["How to Use"], ["Settings…"]):
             self.velto.item.choose(*entries)
         wait_for(lambda: len(self.velto.other_windows) == 3, what="three windows")
@@ -43,7 +43,7 @@ class EndOfSession(unittest.TestCase):
         self.assertTrue(self.velto.settings["autoTransition"])
         self.assertEqual(self.desktop.log("velto"), "")
 
-    def test_it_goes_on_when_the_session_does(self):
+    def test_that_is_cancelled_lets_it_go_on(self):
         self.velto.item.choose("Start Focus")
 
         self.tell("save")

@@ -35,14 +35,14 @@ class TheVirtualDesktop(unittest.TestCase):
             desktop.ask("xsetroot", "-solid", "#ff8000")
             self.assertEqual(desktop.picture()[5, 700], (0xff, 0x80, 0x00))
 
-    def test_monitors_stand_where_they_are_asked_to(self):
+    def test_monitors_are_where_they_should_be(self):
         with VirtualDesktop(size=(2304, 1000), monitors=[(1280, 800, 1024, 0), (1024, 768, 0, 232)]) as desktop:
             monitors = desktop.ask("xrandr", "--listmonitors")
 
             self.assertIn("*M0 1280/320x800/200+1024+0", monitors)
             self.assertIn("M1 1024/256x768/192+0+232", monitors)
 
-    def test_its_fonts_are_no_others_than_the_chosen_one_and_those_that_it_lacks(self):
+    def test_it_has_the_chosen_font_and_fallbacks_only(self):
         with VirtualDesktop(host="none", wm="none") as desktop:
             families = {line.split(",")[0] for line in desktop.ask("fc-list", ":", "family").splitlines()}
 
@@ -50,14 +50,14 @@ class TheVirtualDesktop(unittest.TestCase):
             for name in ("sans-serif", "Cantarell", "monospace"):
                 self.assertEqual(desktop.ask("fc-match", "--format", "%{family}", name), "Inter", name)
 
-    def test_nothing_is_left_of_it_when_it_ends(self):
+    def test_it_leaves_nothing_behind(self):
         with VirtualDesktop() as desktop:
             self.assertGreater(len(list(processes_of(desktop.folder))), 4)
 
         self.assertEqual(list(processes_of(desktop.folder)), [])
         self.assertFalse(os.path.exists(desktop.folder))
 
-    def test_nothing_is_left_of_it_when_the_test_is_killed(self):
+    def test_it_leaves_nothing_behind_even_when_the_test_is_killed(self):
         with subprocess.Popen([sys.executable, "-c", STARTS_A_DESKTOP_AND_WAITS], stdout=subprocess.PIPE) as test:
             folder = test.stdout.readline().decode().strip()
             self.assertGreater(len(list(processes_of(folder))), 4)

@@ -40,7 +40,7 @@ class Story(unittest.TestCase):
 
 
 class ByItself(unittest.TestCase):
-    def test_the_card_leaves_the_keyboard_where_it_is(self):
+    def test_the_card_takes_no_keyboard(self):
         desktop = self.enterContext(VirtualDesktop())
         other = desktop.open_window("other")
         velto = desktop.start_velto({"focusMinutes": 0}, environment=WAYLAND)
@@ -56,13 +56,13 @@ class ByItself(unittest.TestCase):
 
 
 class XWayland(Story):
-    def test_escape_hides_the_card_and_the_other_window_has_the_keyboard_again(self):
+    def test_escape_hides_the_card_and_returns_the_keyboard(self):
         self.desktop.key("Escape")
 
         wait_for(self.hidden, what="the hidden card")
         wait_for(lambda: self.other.has_state("focused"), what="the keyboard back")
 
-    def test_the_card_goes_with_the_keyboard(self):
+    def test_the_card_hides_when_it_loses_the_keyboard(self):
         self.click_other()
 
         wait_for(self.hidden, what="the hidden card")
@@ -75,7 +75,7 @@ class XWayland(Story):
             self.desktop.click_item()
             wait_for(lambda: self.velto.card_is_visible, what="the card")
 
-    def test_a_cancelled_form_leaves_the_card(self):
+    def test_cancelling_the_form_keeps_the_card(self):
         self.open_form()
 
         self.desktop.key("Escape")
@@ -85,7 +85,7 @@ class XWayland(Story):
         self.desktop.key("Escape")
         wait_for(self.hidden, what="the hidden card")
 
-    def test_form_and_card_go_together_and_come_back_together(self):
+    def test_form_and_card_hide_and_return_together(self):
         self.open_form()
         self.click_other()
         wait_for(lambda: self.hidden() and not self.velto.other_windows, what="hidden card and form")
@@ -94,7 +94,7 @@ class XWayland(Story):
 
         wait_for(lambda: self.velto.card_is_visible and self.velto.other_windows, what="card and form")
 
-    def test_starting_it_again_brings_the_card_with_the_keyboard(self):
+    def test_starting_it_again_shows_the_card_with_the_keyboard(self):
         self.desktop.key("Escape")
         wait_for(lambda: self.hidden() and self.other.has_state("focused"), what="the keyboard in the other window")
 
@@ -105,7 +105,7 @@ class XWayland(Story):
         self.desktop.key("Return")
         wait_for(lambda: self.velto.controls == ["Pause", "Reset"], what="the started timer")
 
-    def test_the_list_of_a_picker_leaves_form_and_card(self):
+    def test_the_list_of_a_picker_keeps_form_and_card(self):
         self.open_form()
         picker = self.velto.app.find_all("combo box")[0]
         self.desktop.click(*picker.middle)
@@ -117,7 +117,7 @@ class XWayland(Story):
         holds(lambda: self.velto.card_is_visible and self.velto.app.find_all("push button", "Apply"), 1,
               "card and form without the list")
 
-    def test_the_menu_of_the_card_leaves_it(self):
+    def test_the_menu_of_the_card_keeps_it(self):
         self.desktop.key("shift+F10")
         wait_for(self.menu_is_open, what="the menu")
 
@@ -128,7 +128,7 @@ class XWayland(Story):
         self.desktop.key("Escape")
         wait_for(self.hidden, what="the hidden card")
 
-    def test_a_window_of_its_own_leaves_the_card_and_another_hides_it(self):
+    def test_its_own_windows_keep_the_card_and_others_hide_it(self):
         self.velto.item.choose("How to Use")
         wait_for(lambda: self.velto.other_windows, what="the help window")
         holds(lambda: self.velto.card_is_visible, 1, "the card beside the help window")
@@ -141,7 +141,7 @@ class XWayland(Story):
 class XWaylandWithoutAPanelBar(Story):
     host = "none"
 
-    def test_the_strip_leaves_the_card_and_toggles_it(self):
+    def test_the_strip_keeps_the_card_and_toggles_it(self):
         x, y = wait_for(lambda: self.velto.strip, what="the strip").middle
         holds(lambda: self.velto.card_is_visible, 1, "the card beside the strip")
         for _ in range(3):
@@ -151,7 +151,7 @@ class XWaylandWithoutAPanelBar(Story):
             self.desktop.click(x, y)
             wait_for(lambda: self.velto.card_is_visible, what="the card")
 
-    def test_the_menu_of_the_strip_leaves_the_card(self):
+    def test_the_menu_of_the_strip_keeps_the_card(self):
         x, y = wait_for(lambda: self.velto.strip, what="the strip").middle
         self.desktop.click(x, y, 3)
         wait_for(self.menu_is_open, what="the menu")

@@ -27,7 +27,7 @@ def setUpModule():
     os.makedirs(os.path.dirname(desktop.settings_file))
 
 
-class AnAddress(unittest.TestCase):
+class Address(unittest.TestCase):
     def start_focus_with(self, address):
         # In its binary form the file holds every character.
         with open(desktop.settings_file, "wb") as file:
@@ -42,10 +42,10 @@ class AnAddress(unittest.TestCase):
         """Whether a process of its own tries to."""
         return len(list(processes_with(f"VELTO_RUN={desktop.folder}"))) > 1
 
-    def test_that_is_unusable_is_reported_in_one_line(self):
+    def test_an_unusable_one_is_reported_in_one_line(self):
         self.assert_not_played("Invalid music URL: ", UNUSABLE)
 
-    def test_that_is_not_on_the_web_is_told_and_not_opened(self):
+    def test_one_that_is_not_on_the_web_is_reported_and_not_opened(self):
         self.assert_not_played("Started playing music from: ", NOT_ON_THE_WEB)
 
     def assert_not_played(self, told, addresses):
@@ -60,13 +60,13 @@ class AnAddress(unittest.TestCase):
                 self.assertEqual(desktop.log("velto"), "")
             self.doCleanups()
 
-    def test_that_is_empty_is_no_address_and_not_reported(self):
+    def test_an_empty_one_is_ignored(self):
         velto = self.start_focus_with("")
         wait_for(lambda: velto.item.label == "24:58", what="two seconds")
         self.assertEqual(velto.printed, b"")
         self.assertFalse(self.is_played())
 
-    def test_that_is_usable_is_played(self):
+    def test_a_usable_one_is_played(self):
         velto = self.start_focus_with("http://127.0.0.1:9/")
         wait_for(lambda: velto.printed == b"Started playing music from: http://127.0.0.1:9/\n", what="the line")
         wait_for(self.is_played, what="the process that plays it")

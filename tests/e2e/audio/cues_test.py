@@ -15,7 +15,7 @@ class TheEndOfAPhase(unittest.TestCase):
         self.desktop = self.enterContext(VirtualDesktop(host="press"))
         self.server = SoundServer(self.desktop)
 
-    def test_ten_ticks_and_then_the_end_sound(self):
+    def test_is_ten_ticks_then_the_end_sound(self):
         velto = self.desktop.start_velto({"focusMinutes": 1})
         recording = Recording(self.desktop)
         earlier = len(self.desktop.announcements)

@@ -32,7 +32,7 @@ class TheInstalledTree(unittest.TestCase):
 
         wait_for(lambda: self.recording.has_tone, what="the tone")
 
-    def test_without_the_program_that_plays_it_is_silent_and_counts(self):
+    def test_without_velto_stream_it_counts_in_silence(self):
         os.remove(f"{self.prefix}/libexec/velto-stream")
 
         self.start_music()

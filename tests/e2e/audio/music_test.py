@@ -20,7 +20,7 @@ class Music(MusicStory):
     def clients(self):
         return self.sound.list("clients").count('application.name = "velto"')
 
-    def test_nothing_is_touched_before_it_is_needed(self):
+    def test_opens_nothing_before_it_is_needed(self):
         self.start_velto("tone.mp3")
 
         self.assertNotIn("libcanberra-pulse", self.libraries())  # a connection to the sound server
@@ -51,7 +51,7 @@ class Music(MusicStory):
         self.assertEqual(self.streams.connections, 3)
         holds(lambda: self.streams.connections == 3, 2, "no connection without a phase that runs")
 
-    def test_every_start_is_told_at_once_and_in_one_line(self):
+    def test_each_start_is_reported_at_once_in_one_line(self):
         self.start_velto("tone.mp3")
         line = f"Started playing music from: {self.url}\n".encode()
 
@@ -61,7 +61,7 @@ class Music(MusicStory):
             self.velto.press("Pause")
         self.assertEqual(self.velto.printed, line + line)
 
-    def test_it_starts_at_the_volume_of_the_settings(self):
+    def test_it_starts_at_the_stored_volume(self):
         for volume in (0.25, 0.5, 1.0):
             with self.subTest(volume):
                 self.start_velto("tone.mp3", musicVolume=volume)
@@ -92,7 +92,7 @@ class Music(MusicStory):
         self.wait_for_tone()
         self.assertEqual(self.streams.connections, 1)
 
-    def test_an_unusable_address_is_reported_and_nothing_else(self):
+    def test_an_unusable_address_is_only_reported(self):
         self.velto = self.desktop.start_velto(settings_for("http://no address"), ENVIRONMENT)
         wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
 
@@ -103,14 +103,14 @@ class Music(MusicStory):
         wait_for(lambda: self.velto.time == "24:58", what="a timer that runs")
         self.assertEqual(self.desktop.log("velto"), "")
 
-    def test_a_stream_server_that_hangs_does_not_hold_up_the_end(self):
+    def test_a_hanging_stream_server_does_not_delay_quitting(self):
         self.start_velto("silent")
         self.velto.press("Start")
         wait_for(lambda: self.streams.open_connections == 1, what="a connection")
 
         self.assert_quits_at_once()
 
-    def test_a_sound_server_that_hangs_does_not_hold_up_the_end(self):
+    def test_a_hanging_sound_server_does_not_delay_quitting(self):
         self.start_velto("tone.mp3")
         self.velto.press("Start")
         self.wait_for_tone()

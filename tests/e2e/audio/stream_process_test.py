@@ -17,7 +17,7 @@ def handles(pid):
 
 
 class StreamProcess(MusicStory):
-    def test_it_is_played_by_a_program_that_shares_nothing_with_velto(self):
+    def test_shares_nothing_with_velto(self):
         self.start_velto("tone.mp3")
         self.velto.press("Start")
         self.wait_for_tone()
@@ -28,7 +28,7 @@ class StreamProcess(MusicStory):
         self.assertNotIn("libgst", self.libraries())
         self.assertEqual(self.desktop.log("velto"), "")
 
-    def test_it_comes_back_when_that_program_is_killed(self):
+    def test_is_replaced_when_it_is_killed(self):
         self.start_velto("tone.mp3")
         self.velto.press("Start")
         for deadly in (signal.SIGSEGV, signal.SIGKILL):
@@ -42,14 +42,14 @@ class StreamProcess(MusicStory):
         self.assertEqual(self.streams.connections, 3)
         self.assertEqual(len(self.velto.output), 1)
 
-    def test_nothing_plays_on_after_velto_was_killed(self):
+    def test_ends_when_velto_is_killed(self):
         self.start_velto("tone.mp3")
         self.velto.press("Start")
         self.wait_for_tone()
 
         self.assert_dies_with_velto(self.programs()[0])
 
-    def test_not_even_a_program_that_hangs_outlives_velto(self):
+    def test_ends_with_velto_even_when_it_hangs(self):
         self.start_velto("tone.mp3")
         self.velto.press("Start")
         self.wait_for_tone()
@@ -65,7 +65,7 @@ class StreamProcess(MusicStory):
         self.wait_for_silence()
         self.assertLess(time.monotonic() - before, 1)
 
-    def test_when_that_program_hangs_it_is_stopped_all_the_same(self):
+    def test_is_stopped_even_when_it_hangs(self):
         self.start_velto("tone.mp3")
         self.velto.press("Start")
         self.wait_for_tone()
@@ -76,7 +76,7 @@ class StreamProcess(MusicStory):
         wait_for(lambda: self.programs() == [], what="the program's end")
         self.wait_for_silence()
 
-    def test_when_that_program_hangs_it_does_not_hold_up_the_end(self):
+    def test_does_not_delay_quitting_when_it_hangs(self):
         self.start_velto("tone.mp3")
         self.velto.press("Start")
         self.wait_for_tone()

@@ -21,7 +21,7 @@ class WholePhase(MusicStory):
         wait_for(lambda: self.velto.time == "04:57", what="a break that runs")
         self.assertEqual((self.streams.connections, self.recording.has_nothing), (1, True))
 
-    def test_it_comes_back_with_the_sound_server_and_the_countdown_does_not_wait(self):
+    def test_music_comes_back_with_the_sound_server_and_the_countdown_goes_on(self):
         self.start_velto("tone.mp3", focusMinutes=1)
         self.velto.press("Start")
         self.wait_for_tone()
@@ -33,7 +33,7 @@ class WholePhase(MusicStory):
         wait_for(lambda: self.velto.time == "00:50", what="ten seconds")
         self.assert_counts_every_second(10)
 
-    def test_the_next_tick_is_heard_when_the_sound_server_comes_back(self):
+    def test_the_next_tick_is_heard_once_the_sound_server_is_back(self):
         self.start_velto("tone.mp3", enableFocusMusic=False, focusMinutes=1)
         tick = alert_sound("Tink")
         self.velto.press("Start")

@@ -74,7 +74,7 @@ class About(unittest.TestCase):
 
         self.assertEqual(title(desktop, self.open()).strip(), "")
 
-    def test_has_its_size_floats_and_can_only_be_closed(self):
+    def test_has_a_fixed_size_floats_and_can_only_be_closed(self):
         self.assertEqual(place(desktop, self.window)[2:], (640, 240))
         text = properties(desktop, self.window, "_NET_WM_ALLOWED_ACTIONS", "_NET_WM_STATE")
         self.assertIn("_NET_WM_ACTION_CLOSE", text)
@@ -82,7 +82,7 @@ class About(unittest.TestCase):
         for action in ("RESIZE", "MINIMIZE", "MAXIMIZE"):
             self.assertNotIn(f"_NET_WM_ACTION_{action}", text)
 
-    def test_closed_and_chosen_again_it_stands_where_it_was_left(self):
+    def test_reopens_where_it_was(self):
         left = move(desktop, self.window)
         desktop.ask("wmctrl", "-i", "-c", self.window)
         self.wait_until_closed()
@@ -91,7 +91,7 @@ class About(unittest.TestCase):
 
         wait_for(lambda: place(desktop, self.window) == left)
 
-    def test_chosen_twice_is_the_same_window(self):
+    def test_chosen_twice_shows_the_same_window(self):
         desktop.open_window("other")
 
         self.assertEqual(self.open(), self.window)
@@ -103,7 +103,7 @@ class About(unittest.TestCase):
 
         self.assertEqual(self.opened, list(LINKS.values()))
 
-    def test_what_it_opens_inherits_nothing_that_is_meant_for_it_alone(self):
+    def test_what_it_opens_does_not_inherit_its_private_environment(self):
         desktop.click(*self.link("Website").middle)
         wait_for(lambda: self.opened, what="the link's address")
 

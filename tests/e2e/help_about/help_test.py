@@ -53,7 +53,7 @@ class TheWelcome(Help):
     def setUp(self):
         self.forget_settings()
 
-    def test_stands_in_the_middle_and_in_front_at_the_first_launch(self):
+    def test_is_centred_in_front_at_the_first_launch(self):
         desktop.open_window("busy")
         desktop.type("a user who types")
 
@@ -69,7 +69,7 @@ class TheWelcome(Help):
         self.assertAlmostEqual(y + height / 2, top + depth / 2, delta=8)
         wait_for(lambda: velto.settings["hasLaunchedBefore"] is True)
 
-    def test_is_not_repeated_even_when_the_program_was_killed_while_it_was_open(self):
+    def test_is_not_repeated_even_after_a_kill(self):
         velto = self.start()
         self.wait_for_windows(velto, 1)
 
@@ -118,7 +118,7 @@ class HowToUse(Help):
         self.wait_for_windows(self.velto, 1)
         return wait_for_focus(desktop, self.velto)
 
-    def test_says_everything_to_the_letter(self):
+    def test_has_the_exact_text(self):
         self.open()
 
         labels = shown(self.velto, HELP)[0].find_all("label", showing=False)
@@ -131,7 +131,7 @@ class HowToUse(Help):
         self.assertEqual(self.open(), window)
         self.assertEqual(len(shown(self.velto, HELP)), 1)
 
-    def test_closed_and_chosen_again_it_stands_where_it_was_left(self):
+    def test_reopens_where_it_was(self):
         window = self.open()
         left = move(desktop, window)
         desktop.key("Escape")
@@ -141,7 +141,7 @@ class HowToUse(Help):
 
         wait_for(lambda: place(desktop, window) == left)
 
-    def test_it_can_be_closed_but_not_resized_or_minimised_and_floats(self):
+    def test_floats_and_can_only_be_closed(self):
         window = self.open()
 
         text = properties(desktop, window, "_NET_WM_ALLOWED_ACTIONS", "_NET_WM_STATE")
@@ -168,12 +168,12 @@ class OnALowScreen(Help):
             self.assertEqual(place(low, window)[2], 600)
             yield low, velto
 
-    def test_on_the_screen_of_a_small_laptop_they_fit_without_scrolling(self):
+    def test_they_fit_a_small_laptop_without_scrolling(self):
         with self.opened((1366, 768)) as (_, velto):
             with self.assertRaises(LookupError):
                 shown(velto, HELP)[0].find("scroll bar")
 
-    def test_they_scroll_and_are_where_they_were_when_they_come_back(self):
+    def test_they_scroll_and_keep_their_place_when_reopened(self):
         with self.opened((1366, 600)) as (low, velto):
             def bar():
                 return shown(velto, HELP)[0].find("scroll bar")

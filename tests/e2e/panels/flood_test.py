@@ -25,7 +25,7 @@ class AFlood(unittest.TestCase):
             GLib.MainContext.default().iteration(True)
         bus.close_sync(None)
 
-    def test_a_flood_of_questions_does_not_hold_up_the_second(self):
+    def test_of_calls_does_not_delay_the_second(self):
         earlier = len(self.desktop.announcements)
 
         def seconds():

@@ -38,13 +38,13 @@ class TheBarOfGnome(unittest.TestCase):
                 found.append(word)
         return found
 
-    def test_it_stands_in_the_bar_right_of_the_clock_and_clear_of_the_menus(self):
+    def test_has_the_item_right_of_the_clock_clear_of_the_menus(self):
         x, y, width, height = self.velto.strip.rectangle
         self.assertEqual((y, height), (0, BAR))
         self.assertGreater(x, MIDDLE + 100)
         self.assertLess(x + width, 1280 - 260)
 
-    def test_it_follows_what_the_clock_shows(self):
+    def test_the_item_follows_the_width_of_the_clock(self):
         near = self.velto.strip.rectangle[0]
 
         self.desktop.change_setting(INTERFACE, "clock-show-seconds", GLib.Variant("b", True))
@@ -65,7 +65,7 @@ class TheBarOfGnome(unittest.TestCase):
         self.desktop.click(*self.velto.strip.middle)
         wait_for(lambda: self.velto.card_is_visible)
 
-    def test_it_goes_while_the_bar_is_hidden_under_a_window_that_fills_the_screen(self):
+    def test_the_item_is_hidden_with_the_bar_under_a_full_screen_window(self):
         dock, ordinary = wait_for(lambda: self.unseen_windows("DOCK") + self.unseen_windows("UTILITY"))
         self.set_root("_NET_CLIENT_LIST_STACKING", "32x", f"{ordinary},{dock}")
         holds(self.velto.has_strip, 1)

@@ -58,15 +58,15 @@ class TheTimeInTheBar(unittest.TestCase):
                 x, y, width, height = self.desktop.item_rectangle
                 self.desktop.picture().crop(x - 200, y, 400, height).save(f"{folder}/{what.replace(' ', '-')}.png")
 
-    def test_on_a_light_bar_of_xfce(self):
+    def test_on_light_xfce(self):
         self.start("xfce-light")
         self.wait_until_legible("a light XFCE bar")
 
-    def test_on_a_dark_bar_of_xfce(self):
+    def test_on_dark_xfce(self):
         self.start("xfce")
         self.wait_until_legible("a dark XFCE bar")
 
-    def test_on_a_bar_of_xfce_that_changes(self):
+    def test_on_xfce_that_changes(self):
         self.start("xfce")
         self.wait_until_legible("an XFCE bar while it is dark")
 
@@ -76,12 +76,12 @@ class TheTimeInTheBar(unittest.TestCase):
             wait_for(lambda: contrast(self.look()[1], earlier) > 4.5, what=f"an XFCE bar that becomes {what}")
             self.wait_until_legible(f"an XFCE bar that became {what}")
 
-    def test_on_mate_light_and_dark(self):
+    def test_on_light_and_dark_mate(self):
         for dark in (False, True):
             self.start("mate", dark=dark)
             self.wait_until_legible(f"a {'dark' if dark else 'light'} MATE bar")
 
-    def test_on_lxqt_light_and_dark(self):
+    def test_on_light_and_dark_lxqt(self):
         for host in ("lxqt", "lxqt-dark"):
             self.start(host)
             self.wait_until_legible(f"a bar of {host}")

@@ -122,7 +122,7 @@ class PanelStories:
         self.assertFalse(self.velto.card_is_visible)
         self.show_the_card()
 
-    def test_a_menu_left_with_escape_changes_nothing(self):
+    def test_escape_closes_the_menu_and_changes_nothing(self):
         menu, _ = self.open_menu()
         holds(lambda: self.velto.card_is_visible, 0.7, "the card beside the menu")
         self.desktop.key("Escape")
@@ -131,7 +131,7 @@ class PanelStories:
         self.assertTrue(self.velto.item.menu().find("Start Focus"))
         self.hide_the_card()
 
-    def test_after_escape_from_the_menu_a_press_elsewhere_hides_the_card_at_once(self):
+    def test_a_press_elsewhere_hides_the_card_once_escape_closed_the_menu(self):
         menu, _ = self.open_menu()
         self.desktop.key("Escape")
         self.wait_until_gone(menu)
@@ -176,7 +176,7 @@ class PanelStories:
         self.hide_the_card()
         self.show_the_card()
 
-    def test_control_with_a_left_click_opens_our_menu_for_the_keyboard(self):
+    def test_control_click_opens_our_menu_with_the_keyboard(self):
         self.click_item(modifiers=("ctrl",))
         wait_for(lambda: self.entry("Start Focus"))
         self.assertTrue(self.velto.card_is_visible)
@@ -195,7 +195,7 @@ class PanelStories:
         self.assertTrue(self.velto.card_is_visible)
         self.wait_until_closed()
 
-    def test_our_menu_is_read_and_used_by_assistive_technology(self):
+    def test_our_menu_works_with_assistive_technology(self):
         x, y, width, height = self.desktop.item_rectangle
         self.desktop.move(x + width // 2, y + height // 2)
         self.velto.item.context_menu(x, y)  # as a host does that draws no menus
@@ -215,7 +215,7 @@ class PanelStories:
         wait_for(lambda: self.velto.settings.get("focusMinutes") == 50)
         self.wait_until_closed()
 
-    def test_the_time_in_the_bar_goes_with_the_timer(self):
+    def test_the_time_in_the_bar_follows_the_timer(self):
         def shown():
             return self.desktop.picture().crop(*self.desktop.item_rectangle).rgb
 
@@ -229,7 +229,7 @@ class PanelStories:
         """Until the host has asked its last question about what was before."""
         wait_for(lambda: not messages_in(self.desktop, self.velto.item.bus_name, 1), what="silence on the bus")
 
-    def test_counting_costs_one_signal_a_second_and_the_answers_to_the_host(self):
+    def test_counting_costs_one_signal_a_second_and_its_answers(self):
         self.velto.press("Start")
         self.hide_the_card()
         self.desktop.move(600, 10)
@@ -245,7 +245,7 @@ class PanelStories:
         self.assertEqual(heard[:5 * (1 + self.questions)], 5 * [self.news, *self.questions * ["answer"]])
         self.assertAlmostEqual(seconds, 5, delta=0.5)
 
-    def test_nothing_is_said_while_the_timer_is_idle_or_paused(self):
+    def test_sends_nothing_while_the_timer_is_idle_or_paused(self):
         name = self.velto.item.bus_name
         self.hide_the_card()
         self.wait_for_silence()

@@ -31,7 +31,7 @@ class TheStrip(unittest.TestCase):
     def wait_until_closed(self):
         wait_for(lambda: not self.menu_is_open(), what="the menu closed")
 
-    def test_it_stands_at_the_top_beside_the_buttons_of_windows_and_takes_the_focus_from_no_window(self):
+    def test_it_is_at_the_top_clear_of_window_buttons_and_takes_no_focus(self):
         field = self.desktop.open_window("other")
         focused = self.desktop.focused_window
 
@@ -44,7 +44,7 @@ class TheStrip(unittest.TestCase):
         wait_for(lambda: field.text == "still here")
         self.assertEqual(self.desktop.focused_window, focused)
 
-    def test_it_is_above_others_on_every_workspace_and_in_no_task_bar(self):
+    def test_it_is_on_top_on_every_workspace_and_in_no_task_bar(self):
         x, y, _, _ = self.velto.strip.rectangle
         for window in self.desktop.ask("xdotool", "search", "--onlyvisible", "--class", "org.velto.Velto").split():
             if f"Absolute upper-left X:  {x}\n  Absolute upper-left Y:  {y}\n" in self.desktop.ask(
@@ -56,7 +56,7 @@ class TheStrip(unittest.TestCase):
             self.assertIn(f"_NET_WM_STATE_{state}", states)
         self.assertIn(f"= {0xffffffff}", states)
 
-    def test_the_desktop_is_seen_beside_its_corners_with_and_without_a_compositor(self):
+    def test_its_corners_are_transparent_with_and_without_a_compositor(self):
         def corner_is_the_desktop():
             picture = self.desktop.picture()
             x, y, _, _ = self.velto.strip.rectangle
@@ -68,7 +68,7 @@ class TheStrip(unittest.TestCase):
             wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
             wait_for(corner_is_the_desktop)
 
-    def test_a_left_click_toggles_the_card_and_so_does_a_middle_click(self):
+    def test_a_left_or_middle_click_toggles_the_card(self):
         self.click()
         wait_for(lambda: not self.velto.card_is_visible)
         holds(lambda: not self.velto.card_is_visible, 0.7)
@@ -76,7 +76,7 @@ class TheStrip(unittest.TestCase):
         self.click(button=2)
         wait_for(lambda: self.velto.card_is_visible)
 
-    def test_the_card_stands_under_it_from_the_launch_on(self):
+    def test_the_card_is_under_it_from_launch(self):
         x, y, strip_width, height = self.velto.strip.rectangle
         left, top, width, _ = self.velto.card.rectangle
         self.assertEqual(top, y + height + 6)
@@ -89,7 +89,7 @@ class TheStrip(unittest.TestCase):
 
         self.assertEqual(self.velto.card.rectangle[:2], (left, top))
 
-    def test_it_is_dragged_along_its_edge_and_that_is_no_click(self):
+    def test_dragging_it_along_its_edge_is_no_click(self):
         x, y, width, height = self.velto.strip.rectangle
         self.desktop.press(x + width // 2, y + height // 2)
         for step in range(1, 11):
@@ -105,7 +105,7 @@ class TheStrip(unittest.TestCase):
         left, _, card_width, _ = self.velto.card.rectangle
         self.assertAlmostEqual(left + card_width / 2, x - 300 + width / 2, delta=1)
 
-    def test_it_is_hidden_while_a_window_fills_the_screen(self):
+    def test_a_full_screen_window_hides_it(self):
         self.desktop.open_window("other")
         holds(lambda: self.velto.strip, 1)
         self.desktop.ask("wmctrl", "-r", "other", "-b", "add,fullscreen")
@@ -128,7 +128,7 @@ class TheStrip(unittest.TestCase):
         self.click()
         wait_for(lambda: not self.velto.card_is_visible)
 
-    def test_control_with_a_left_click_opens_the_menu(self):
+    def test_control_click_opens_the_menu(self):
         self.desktop.ask("xdotool", "keydown", "ctrl")
         self.click()
         wait_for(self.menu_is_open)
@@ -138,7 +138,7 @@ class TheStrip(unittest.TestCase):
         self.desktop.key("Escape")
         self.wait_until_closed()
 
-    def test_the_menu_is_walked_and_left_with_the_keyboard(self):
+    def test_the_menu_works_with_the_keyboard(self):
         self.click(button=3)
         wait_for(self.menu_is_open)
 
@@ -173,7 +173,7 @@ class TheStrip(unittest.TestCase):
         for second in ("24:59", "24:58", "24:57"):
             wait_for(lambda: self.velto.strip.name == second)
 
-    def test_without_a_host_nothing_is_said_on_the_bus(self):
+    def test_sends_nothing_on_the_bus_without_a_host(self):
         self.velto.press("Start")
         wait_for(lambda: self.velto.strip.name < "24:59")
 

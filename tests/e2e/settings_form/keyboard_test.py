@@ -87,7 +87,7 @@ class KeysAlone(unittest.TestCase):
         wait_for(lambda: not self.velto.card_is_visible, what="the hidden card")
         self.the_other_window_has_the_keyboard()
 
-    def test_the_key_brings_an_open_form_back_with_the_keyboard(self):
+    def test_the_shortcut_brings_an_open_form_back_with_the_keyboard(self):
         self.velto.item.choose("Settings…")
         sheet = Sheet(self.velto)
         wait_for(lambda: sheet.number("Focus").has_state("focused"), what="the keyboard in the first field")

@@ -33,7 +33,7 @@ class Preview(unittest.TestCase):
             return [name for name, sound in SOUNDS.items() if find_all(sound, samples)]
         return wait_for(heard, timeout=5, what="a sound")
 
-    def test_each_of_them_plays_the_sound_of_its_picker(self):
+    def test_plays_the_sound_of_each_picker(self):
         for title, sound in (("Countdown Tick", "Tink"), ("Focus End", "Glass"), ("Break End", "Submarine")):
             self.assertEqual(self.play(title), [sound], title)
 
@@ -43,7 +43,7 @@ class Preview(unittest.TestCase):
         self.desktop.click(x + 10, y + height // 2)  # not where the list was opened: a double click chooses nothing
         wait_for(lambda: picker.name == sound, what=f"{sound} chosen")
 
-    def test_each_of_the_fourteen_sounds_is_heard_and_nothing_for_none(self):
+    def test_plays_each_sound_and_nothing_for_none(self):
         picker = self.sheet.picker("Countdown Tick")
         for sound in SOUNDS:
             self.choose(picker, sound)

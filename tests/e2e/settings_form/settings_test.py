@@ -31,7 +31,7 @@ class SettingsForm(unittest.TestCase):
     def settings_become(self, expected):
         wait_for(lambda: self.velto.settings == expected, what="the settings file")
 
-    def test_the_menu_shows_the_hidden_panel_and_the_form_over_it(self):
+    def test_the_menu_shows_the_panel_with_the_form_over_it(self):
         self.start()
         self.velto.item.activate()
         wait_for(lambda: not self.velto.card_is_visible, what="the hidden card")
@@ -68,7 +68,7 @@ class SettingsForm(unittest.TestCase):
         self.assertEqual(self.velto.time, "10:00")
         self.settings_become(DEFAULTS | {"focusMinutes": 10})
 
-    def test_minutes_that_no_seconds_can_hold_are_not_taken(self):
+    def test_minutes_that_overflow_in_seconds_are_refused(self):
         self.start()
         sheet = self.open()
         sheet.type_number("Focus", 153722867280912931)
@@ -88,7 +88,7 @@ class SettingsForm(unittest.TestCase):
         for key, value in DEFAULTS.items():
             self.assertIs(type(self.velto.settings[key]), type(value), key)
 
-    def test_other_break_minutes_leave_the_running_focus_alone(self):
+    def test_new_break_minutes_leave_the_running_focus_alone(self):
         self.start()
         self.velto.press("Start")
         wait_for(lambda: self.velto.time <= "24:58")
@@ -102,7 +102,7 @@ class SettingsForm(unittest.TestCase):
         before = self.velto.time
         wait_for(lambda: self.velto.time < before, what="the countdown going on")
 
-    def test_other_focus_minutes_start_the_running_focus_over(self):
+    def test_new_focus_minutes_restart_the_running_focus(self):
         self.start()
         self.velto.press("Start")
         wait_for(lambda: self.velto.time <= "24:58")
@@ -127,7 +127,7 @@ class SettingsForm(unittest.TestCase):
         self.assertTrue(self.velto.card_is_visible)
         self.assertEqual(self.velto.settings, {"hasLaunchedBefore": True})
 
-    def test_a_close_from_outside_is_cancel(self):
+    def test_closing_its_window_cancels(self):
         self.start()
         sheet = self.open()
         wait_for(lambda: sheet.number("Focus").has_state("focused"), what="the keyboard in the first field")
@@ -140,7 +140,7 @@ class SettingsForm(unittest.TestCase):
         self.assertEqual(self.open().number("Focus").text, "25", "A new form starts from the settings")
         self.assertEqual(self.velto.settings, {"hasLaunchedBefore": True})
 
-    def test_a_half_edited_form_hides_and_comes_back_with_the_panel(self):
+    def test_an_edited_form_hides_and_returns_with_the_panel(self):
         self.start()
         sheet = self.open()
         sheet.switch("Auto-Transition").press()
@@ -157,7 +157,7 @@ class SettingsForm(unittest.TestCase):
         self.settings_become(DEFAULTS | {"breakMinutes": 9, "autoTransition": True})
         self.assertEqual(self.open().number("Break").text, "9")
 
-    def test_a_press_in_the_form_keeps_it_and_one_elsewhere_hides_it(self):
+    def test_a_press_in_it_keeps_it_and_one_elsewhere_hides_it(self):
         self.start()
         sheet = self.open()
         x, y, width, height = sheet.window.rectangle
@@ -169,7 +169,7 @@ class SettingsForm(unittest.TestCase):
 
         wait_for(lambda: not self.velto.card_is_visible and not Sheet.is_open(self.velto), what="both hidden")
 
-    def test_asked_for_it_has_the_keyboard_and_gives_it_back(self):
+    def test_it_takes_the_keyboard_and_gives_it_back(self):
         self.start()
         other = desktop.open_window("other")
 
@@ -186,7 +186,7 @@ class SettingsForm(unittest.TestCase):
         desktop.type("here")
         wait_for(lambda: other.text == "here")
 
-    def test_shown_again_by_a_click_it_has_the_keyboard_again(self):
+    def test_a_click_shows_it_again_with_the_keyboard(self):
         self.start()
         other = desktop.open_window("other")
         sheet = self.open()
@@ -199,7 +199,7 @@ class SettingsForm(unittest.TestCase):
         sheet = Sheet(self.velto)
         wait_for(lambda: sheet.number("Focus").has_state("focused"), what="the keyboard in the field that had it")
 
-    def test_a_picker_opens_and_chooses_without_losing_the_form(self):
+    def test_choosing_from_a_picker_keeps_the_form(self):
         self.start()
         sheet = self.open()
         picker = sheet.picker("Countdown Tick")
@@ -212,7 +212,7 @@ class SettingsForm(unittest.TestCase):
         sheet.click("Apply")
         self.settings_become(DEFAULTS | {"countdownSound": b'"Pop"'})
 
-    def test_it_can_be_filled_in_and_applied_through_the_accessibility_tree_alone(self):
+    def test_it_works_through_the_accessibility_tree_alone(self):
         self.start()
         sheet = self.open()
 
@@ -254,7 +254,7 @@ class SettingsForm(unittest.TestCase):
             shrinking.click(*sheet.button("Cancel").middle)
             wait_for(lambda: not Sheet.is_open(velto), what="the form's end")
 
-    def test_it_is_lower_on_a_lower_screen_and_still_whole(self):
+    def test_it_fits_a_low_screen_and_is_whole(self):
         with VirtualDesktop(size=(1024, 600)) as low:
             velto = low.start_velto({})
             wait_for(lambda: velto.card_is_visible)

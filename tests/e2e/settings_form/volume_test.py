@@ -40,7 +40,7 @@ class Volume(unittest.TestCase):
         for step in range(1, 11):
             self.desktop.move(place[0] + (place[1] - place[0]) * step // 10, y + height // 2)
 
-    def test_dragging_it_is_heard_at_once_and_cancel_restores_the_loudness(self):
+    def test_dragging_it_is_heard_at_once_and_cancel_restores_it(self):
         self.velto.press("Start")
         self.wait_for_volume(0.25)
         self.velto.item.choose("Settings…")
@@ -63,7 +63,7 @@ class Volume(unittest.TestCase):
         self.wait_for_volume(0.25)
         self.assertEqual(self.velto.settings["musicVolume"], 0.25)
 
-    def test_applying_it_stores_it_and_the_music_goes_on(self):
+    def test_apply_stores_it_and_the_music_goes_on(self):
         self.velto.press("Start")
         self.wait_for_volume(0.25)
         self.velto.item.choose("Settings…")

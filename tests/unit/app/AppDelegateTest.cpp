@@ -28,7 +28,7 @@ TEST_F(AppDelegateTest, BeginsEmpty)
     EXPECT_FALSE(delegate.statusBarController);
 }
 
-TEST_F(AppDelegateTest, WithoutEitherProviderLaunchingDoesNothing)
+TEST_F(AppDelegateTest, LaunchingNeedsBothProviders)
 {
     int timersAskedFor = 0;
     setProviders();
@@ -52,7 +52,7 @@ TEST_F(AppDelegateTest, WithoutEitherProviderLaunchingDoesNothing)
     EXPECT_EQ(runLoop.liveTimers(), 0U);
 }
 
-TEST_F(AppDelegateTest, TheStatusItemIsThereWhenLaunchingReturns)
+TEST_F(AppDelegateTest, LaunchingCreatesTheStatusItem)
 {
     setProviders();
 
@@ -65,7 +65,7 @@ TEST_F(AppDelegateTest, TheStatusItemIsThereWhenLaunchingReturns)
     EXPECT_FALSE(timer().isRunning());
 }
 
-TEST_F(AppDelegateTest, ThePanelComesAfterFourTenthsOfASecondAndTheWelcomeAfterSix)
+TEST_F(AppDelegateTest, ShowsThePanelAfter400MillisecondsAndTheWelcomeAfter600)
 {
     setProviders();
     delegate.applicationDidFinishLaunching();
@@ -89,7 +89,7 @@ TEST_F(AppDelegateTest, ThePanelComesAfterFourTenthsOfASecondAndTheWelcomeAfterS
     EXPECT_EQ(runLoop.liveTimers(), 0U);
 }
 
-TEST_F(AppDelegateTest, ALaterLaunchShowsThePanelButNoWelcome)
+TEST_F(AppDelegateTest, LaterLaunchesShowThePanelWithoutTheWelcome)
 {
     store.values["hasLaunchedBefore"] = true;
     setProviders();
@@ -103,7 +103,7 @@ TEST_F(AppDelegateTest, ALaterLaunchShowsThePanelButNoWelcome)
     EXPECT_TRUE(store.writes.empty());
 }
 
-TEST_F(AppDelegateTest, ThePanelIsShownEvenWhenTheControllerIsLetGoBefore)
+TEST_F(AppDelegateTest, ShowsThePanelEvenIfTheControllerIsReleasedFirst)
 {
     setProviders();
     delegate.applicationDidFinishLaunching();
@@ -114,7 +114,7 @@ TEST_F(AppDelegateTest, ThePanelIsShownEvenWhenTheControllerIsLetGoBefore)
     EXPECT_EQ(panelsMade, 1);
 }
 
-TEST_F(AppDelegateTest, ASecondLaunchReplacesTheControllerAndKeepsTimerAndSettings)
+TEST_F(AppDelegateTest, LaunchingAgainReplacesTheControllerAndKeepsTimerAndSettings)
 {
     setProviders();
     delegate.applicationDidFinishLaunching();

@@ -15,7 +15,7 @@ using namespace std::chrono_literals;
 
 class VeltoAppTest : public testing::Test, protected World { };
 
-TEST_F(VeltoAppTest, TheDelegateIsHandedTheOneTimerAndTheOneSettings)
+TEST_F(VeltoAppTest, TheDelegateSharesItsTimerAndSettings)
 {
     VeltoApp app{platform};
 

@@ -25,7 +25,7 @@ TEST_F(PhaseCuesTest, TheCountdownCueSoundsOnTicksFiftyOneToSixtyOfAMinute)
     EXPECT_EQ(cues, (std::vector<int>{51, 52, 53, 54, 55, 56, 57, 58, 59, 60}));
 }
 
-TEST_F(PhaseCuesTest, TheCueComesBeforeTheSecondIsTaken)
+TEST_F(PhaseCuesTest, TheCuePlaysBeforeTheSecondIsCounted)
 {
     settings.focusMinutes.set(1);
     startAndTick(50);
@@ -101,7 +101,7 @@ TEST_F(PhaseCuesTest, CompletionIsPostedAlsoWhenTheEndSoundIsOff)
 
 // Music
 
-TEST_F(PhaseCuesTest, MusicThatIsOffForTheBreakReturnsWithTheFocus)
+TEST_F(PhaseCuesTest, MusicThatIsOffDuringTheBreakReturnsWithTheFocus)
 {
     useMusic();
     settings.enableBreakMusic.set(false);
@@ -145,7 +145,7 @@ TEST_F(PhaseCuesTest, StartingMusicThatIsOffOrHasNoAddressLeavesThePlayerAsItIs)
     EXPECT_EQ(players.calls, (Lines{"1 made", "1 volume 0.25", "1 play"}));
 }
 
-TEST_F(PhaseCuesTest, StartingMusicLooksAtThePhaseAndNotAtRunning)
+TEST_F(PhaseCuesTest, StartingMusicDependsOnThePhaseAndNotOnRunning)
 {
     useMusic();
     settings.musicVolume.set(1.5F);

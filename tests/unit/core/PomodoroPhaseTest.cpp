@@ -19,7 +19,7 @@ TEST(PomodoroPhaseTest, AnyOtherNumberIsNoPhase)
         EXPECT_EQ(pomodoroPhase(number), std::nullopt) << number;
 }
 
-TEST(PomodoroPhaseTest, EachIsTheOtherOfTheOther)
+TEST(PomodoroPhaseTest, TheOtherPhaseOfTheOtherIsThePhaseItself)
 {
     EXPECT_EQ(otherPhase(PomodoroPhase::focus), PomodoroPhase::breakTime);
     EXPECT_EQ(otherPhase(PomodoroPhase::breakTime), PomodoroPhase::focus);

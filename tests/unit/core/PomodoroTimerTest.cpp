@@ -11,7 +11,7 @@ using PomodoroTimerTest = TimerFixture;
 
 // Construction
 
-TEST_F(PomodoroTimerTest, BeginsInFocusAtItsFullLengthAndStill)
+TEST_F(PomodoroTimerTest, BeginsInFocusAtFullLengthAndAtRest)
 {
     expectReady(PomodoroPhase::focus, 1500);
     EXPECT_EQ(timer().focusDuration(), 1500);
@@ -50,7 +50,7 @@ TEST_F(PomodoroTimerTest, AStoredZeroEndsThePhaseOnTheFirstTickWithoutACountdown
     EXPECT_EQ(sounds.played, Lines{"Glass"});
 }
 
-TEST_F(PomodoroTimerTest, AStoredNegativeLengthIsTakenAsItIs)
+TEST_F(PomodoroTimerTest, AStoredNegativeLengthIsKept)
 {
     settings.breakMinutes.set(-2);
 
@@ -142,7 +142,7 @@ TEST_F(PomodoroTimerTest, PauseWhileReadyOnlyNotifies)
     expectReady(PomodoroPhase::focus, 1500);
 }
 
-TEST_F(PomodoroTimerTest, PauseKeepsTheStreamAndStartOpensItAnew)
+TEST_F(PomodoroTimerTest, PauseKeepsTheStreamAndStartReopensIt)
 {
     useMusic();
     startAndTick(1);
@@ -190,7 +190,7 @@ TEST_F(PomodoroTimerTest, ResetDuringABreakStaysInTheBreak)
     expectReady(PomodoroPhase::breakTime, 300);
 }
 
-TEST_F(PomodoroTimerTest, SwitchingToTheCurrentPhaseIsExactlyReset)
+TEST_F(PomodoroTimerTest, SwitchingToTheCurrentPhaseIsAReset)
 {
     startAndTick(5);
     timer().reset();
@@ -243,7 +243,7 @@ TEST_F(PomodoroTimerTest, APhaseEndsInOrder)
             "completed focus", "phase=break", "remainingSeconds=300", "hasStarted=false"}));
 }
 
-TEST_F(PomodoroTimerTest, WithoutAutoTransitionTheOtherPhaseRestsAtItsFullLengthWithoutMusic)
+TEST_F(PomodoroTimerTest, WithoutAutoTransitionTheOtherPhaseWaitsAtFullLengthWithoutMusic)
 {
     useMusic();
 
@@ -277,7 +277,7 @@ TEST_F(PomodoroTimerTest, WithAutoTransitionTheOtherPhaseRunsWithItsMusic)
     EXPECT_EQ(timer().remainingSeconds(), 299);
 }
 
-TEST_F(PomodoroTimerTest, AutoTransitionIsLookedAtWhenThePhaseEnds)
+TEST_F(PomodoroTimerTest, AutoTransitionIsReadWhenThePhaseEnds)
 {
     timer().start();
     timer().autoTransition.set(true);
@@ -335,7 +335,7 @@ TEST_F(PomodoroTimerTest, LessThanAMinuteRunsAsOneButIsStoredAsGiven)
     EXPECT_EQ(settings.breakMinutes(), 0);
 }
 
-TEST_F(PomodoroTimerTest, UpdatingWithoutResetSetsAndStoresTheDurationsAndNothingElse)
+TEST_F(PomodoroTimerTest, UpdatingWithoutResetOnlySetsAndStoresTheDurations)
 {
     startAndTick(5);
 
@@ -386,7 +386,7 @@ TEST_F(PomodoroTimerTest, EveryChangeOfAutoTransitionIsStored)
     EXPECT_EQ(storedKeys(), Lines(3, "autoTransition"));
 }
 
-TEST_F(PomodoroTimerTest, ChangingTheSettingDoesNotReachTheTimer)
+TEST_F(PomodoroTimerTest, ChangingTheSettingDoesNotAffectTheTimer)
 {
     timer();
 

@@ -5,7 +5,7 @@
 
 namespace velto {
 
-TEST(TimeTextTest, ShowsMinutesAndSecondsWithoutCappingTheMinutes)
+TEST(TimeTextTest, ShowsUnlimitedMinutesAndSeconds)
 {
     EXPECT_EQ(timeText(0), "00:00");
     EXPECT_EQ(timeText(59), "00:59");

@@ -15,7 +15,7 @@ struct VersionCase {
 
 class VersionStringTest : public testing::TestWithParam<VersionCase> { };
 
-TEST_P(VersionStringTest, NamesTheVersionAndTheBuildThatThereAre)
+TEST_P(VersionStringTest, LeavesOutAMissingVersionOrBuild)
 {
     FakeBundle bundle;
     bundle.values = GetParam().bundle;

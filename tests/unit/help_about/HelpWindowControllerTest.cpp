@@ -46,7 +46,7 @@ TEST_F(HelpWindowControllerTest, MakesItsWindowOnFirstAccessAndKeepsIt)
     EXPECT_EQ(steps, std::vector<std::string>{"make"});
 }
 
-TEST_F(HelpWindowControllerTest, EveryControllerHasAWindowOfItsOwn)
+TEST_F(HelpWindowControllerTest, EachControllerHasAWindowOfItsOwn)
 {
     HelpWindowController one{makeWindow};
     HelpWindowController other{makeWindow};
@@ -54,7 +54,7 @@ TEST_F(HelpWindowControllerTest, EveryControllerHasAWindowOfItsOwn)
     EXPECT_NE(&one.panel(), &other.panel());
 }
 
-TEST_F(HelpWindowControllerTest, TheFirstLaunchIsMarkedThenWelcomedInFront)
+TEST_F(HelpWindowControllerTest, TheFirstLaunchIsStoredThenShowsTheWelcomeInFront)
 {
     showWelcomeIfNeeded();
 

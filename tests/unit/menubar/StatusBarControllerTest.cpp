@@ -33,7 +33,7 @@ TEST_F(StatusBarControllerTest, TheButtonShowsTheTimeAtOnce)
     EXPECT_EQ(statusItem->menu, controller().statusMenu().menu());
 }
 
-TEST_F(StatusBarControllerTest, BuildsNoPanelAndNoWindowYet)
+TEST_F(StatusBarControllerTest, MakesNoPanelOrWindowAtFirst)
 {
     controller();
     runLoop.runTurns();
@@ -42,7 +42,7 @@ TEST_F(StatusBarControllerTest, BuildsNoPanelAndNoWindowYet)
     EXPECT_TRUE(windowsMade.empty());
 }
 
-TEST_F(StatusBarControllerTest, TheTitleShowsMinutesAndSecondsWithoutCappingTheMinutes)
+TEST_F(StatusBarControllerTest, TheTitleShowsUnlimitedMinutesAndSeconds)
 {
     const std::vector<std::pair<std::int64_t, std::string>> cases{
         {1, "01:00"}, {25, "25:00"}, {90, "90:00"}, {100, "100:00"}};
@@ -69,7 +69,7 @@ TEST_F(StatusBarControllerTest, TheTitleFollowsTheCountdownDownToZero)
     EXPECT_EQ(button().title(), "05:00");
 }
 
-TEST_F(StatusBarControllerTest, ATitleIsWrittenOnceATickAndNeverLooksDisabled)
+TEST_F(StatusBarControllerTest, TheTitleIsWrittenOnceATickAndNeverLooksDisabled)
 {
     timer().start();
     runLoop.runTurns();
@@ -82,7 +82,7 @@ TEST_F(StatusBarControllerTest, ATitleIsWrittenOnceATickAndNeverLooksDisabled)
     EXPECT_EQ(button().appearsDisabled, std::vector<bool>(3, false));
 }
 
-TEST_F(StatusBarControllerTest, AChangeOfThePhaseAloneRewritesTheTitleWithTheSameText)
+TEST_F(StatusBarControllerTest, AChangeOfPhaseRewritesTheTitleEvenWithTheSameText)
 {
     timer().updateDurations(5, 5);
     runLoop.runTurns();
@@ -117,7 +117,7 @@ TEST_F(StatusBarControllerTest, WithoutAButtonTheMenuAndTheSubscriptionsStillWor
     EXPECT_EQ(statusItem->popUps, 0);
 }
 
-TEST_F(StatusBarControllerTest, WhatWaitsWhenTheControllerGoesIsNotDelivered)
+TEST_F(StatusBarControllerTest, DeliversNothingOnceDestroyed)
 {
     timer().start();
 
@@ -131,7 +131,7 @@ TEST_F(StatusBarControllerTest, WhatWaitsWhenTheControllerGoesIsNotDelivered)
     EXPECT_EQ(panelsMade, 0);
 }
 
-TEST_F(StatusBarControllerTest, NothingWaitsWhileNothingChanges)
+TEST_F(StatusBarControllerTest, NoWorkWaitsWhileNothingChanges)
 {
     controller();
     runLoop.runTurns();
@@ -220,7 +220,7 @@ TEST_F(StatusBarControllerTest, TheMenuIsUpToDateBeforeItOpens)
     EXPECT_EQ(title, "Pause Focus") << "though nothing has been delivered yet";
 }
 
-TEST_F(StatusBarControllerTest, TheMenuOpensAlsoWhenAskedForWithoutAClick)
+TEST_F(StatusBarControllerTest, TheMenuCanBeOpenedWithoutAClick)
 {
     controller();
 
@@ -230,7 +230,7 @@ TEST_F(StatusBarControllerTest, TheMenuOpensAlsoWhenAskedForWithoutAClick)
     EXPECT_EQ(panelsMade, 0);
 }
 
-TEST_F(StatusBarControllerTest, AMenuThatAHostOpensIsUpToDateToo)
+TEST_F(StatusBarControllerTest, AMenuOpenedByTheHostIsUpToDateToo)
 {
     controller();
     runLoop.runTurns();
@@ -258,7 +258,7 @@ TEST_F(StatusBarControllerTest, AtTheEndOfAPhaseTheHiddenPanelIsShownWithoutActi
     EXPECT_EQ(statusItem->popUps, 0);
 }
 
-TEST_F(StatusBarControllerTest, ThePanelHasTheKeyboardOnlyWhenThatIsAskedFor)
+TEST_F(StatusBarControllerTest, ThePanelTakesTheKeyboardOnlyOnRequest)
 {
     controller().showTimer();
     EXPECT_EQ(panel->keys, 0);

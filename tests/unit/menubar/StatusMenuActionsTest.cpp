@@ -62,7 +62,7 @@ TEST_F(StatusMenuActionsTest, APhaseIsSwitchedTo)
     EXPECT_EQ(timer().phase(), PomodoroPhase::focus);
 }
 
-TEST_F(StatusMenuActionsTest, AnItemWithoutAValueOfItsKindDoesNothing)
+TEST_F(StatusMenuActionsTest, AnItemWithoutASuitableValueDoesNothing)
 {
     struct Case {
         const char* path;
@@ -95,7 +95,7 @@ TEST_F(StatusMenuActionsTest, AnItemWithoutAValueOfItsKindDoesNothing)
     }
 }
 
-TEST_F(StatusMenuActionsTest, AutoTransitionFlipsMarksAndStores)
+TEST_F(StatusMenuActionsTest, AutoTransitionIsToggledMarkedAndStored)
 {
     const auto before = settledMenu();
 
@@ -110,7 +110,7 @@ TEST_F(StatusMenuActionsTest, AutoTransitionFlipsMarksAndStores)
     EXPECT_EQ(menu(), before);
 }
 
-TEST_F(StatusMenuActionsTest, EveryWayToTheSettingsShowsThePanelAndThenAsksForTheForm)
+TEST_F(StatusMenuActionsTest, EveryWayToTheSettingsShowsThePanelThenTheForm)
 {
     for (const auto* path : {"Settings\u2026", "Focus Duration / Custom\u2026", "Break Duration / Custom\u2026",
              "Focus Music / Edit Custom URL\u2026", "Break Music / Edit Custom URL\u2026"}) {
@@ -134,7 +134,7 @@ TEST_F(StatusMenuActionsTest, EveryWayToTheSettingsShowsThePanelAndThenAsksForTh
     }
 }
 
-TEST_F(StatusMenuActionsTest, HelpAndAboutActivateAndThenComeToTheFrontInOneWindowEach)
+TEST_F(StatusMenuActionsTest, HelpAndAboutActivateThenShowTheirOneWindow)
 {
     application.onActivate = [this] { windowsShown.emplace_back("activated"); };
 
@@ -206,7 +206,7 @@ TEST_F(StatusMenuActionsTest, APresetForTheOtherPhaseDoesNotTouchThePlayer)
     EXPECT_TRUE(timer().musicPlayer().isPlaying());
 }
 
-TEST_F(StatusMenuActionsTest, WhilePausedAChoiceIsOnlyStored)
+TEST_F(StatusMenuActionsTest, AChoiceWhilePausedIsOnlyStored)
 {
     timer().start();
     choose("Focus Music / Lush");
@@ -243,7 +243,7 @@ TEST_F(StatusMenuActionsTest, AChoiceWritesEnabledThenPresetOfItsPhaseOnly)
     }
 }
 
-TEST_F(StatusMenuActionsTest, ABreakChoiceDrivesTheRunningBreak)
+TEST_F(StatusMenuActionsTest, AChoiceForTheBreakDrivesTheRunningBreak)
 {
     timer().switchToPhase(PomodoroPhase::breakTime);
     timer().start();

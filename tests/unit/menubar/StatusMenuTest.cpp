@@ -89,18 +89,18 @@ void forEachItem(const Menu& menu, const std::function<void(MenuItem&)>& visit)
 
 // Structure
 
-TEST_F(StatusMenuTest, FreshItIsExactlyThis)
+TEST_F(StatusMenuTest, HasExactlyTheseEntriesBeforeTheFirstStart)
 {
     EXPECT_EQ(settledMenu(), freshMenu);
 }
 
-TEST_F(StatusMenuTest, AsBuiltOnlyTheTwoDurationsAreChecked)
+TEST_F(StatusMenuTest, OnlyTheTwoDurationsAreCheckedWhenBuilt)
 {
     EXPECT_EQ(changedLines(freshMenu, menu()),
         (Lines{"Presets / 25m focus / 5m break", "Focus Music / None", "Break Music / None", "Current Phase / Focus"}));
 }
 
-TEST_F(StatusMenuTest, ChoicesCanHaveAMarkAndNothingElse)
+TEST_F(StatusMenuTest, OnlyChoicesCanHaveAMark)
 {
     forEachItem(*controller().statusMenu().menu(), [](const MenuItem& item) {
         EXPECT_EQ(item.isCheckable, item.representedObject.has_value() || item.title == "Auto-Transition")
@@ -108,7 +108,7 @@ TEST_F(StatusMenuTest, ChoicesCanHaveAMarkAndNothingElse)
     });
 }
 
-TEST_F(StatusMenuTest, HasTheEntriesOfEachMenuInNumber)
+TEST_F(StatusMenuTest, HasTheRightNumberOfEntries)
 {
     const auto& top = *controller().statusMenu().menu();
     const auto entries = [&](const std::string& title) { return menuItem(top, title)->submenu->items.size(); };
@@ -187,7 +187,7 @@ TEST_F(StatusMenuTest, WhileRunningTheTimerCanBePausedAndResetFromTheFirstSecond
     EXPECT_EQ(changedLines(freshMenu, settledMenu()), (Lines{"Pause Focus", "Reset Focus"}));
 }
 
-TEST_F(StatusMenuTest, PausedAfterSomeSecondsItCanBeStartedAndReset)
+TEST_F(StatusMenuTest, PausedAfterSomeSecondsTheTimerCanBeStartedAndReset)
 {
     timer().start();
     tick(3);
@@ -204,7 +204,7 @@ TEST_F(StatusMenuTest, PausedAtItsFullLengthResetIsVisibleAndDisabled)
     EXPECT_EQ(changedLines(freshMenu, settledMenu()), Lines{"Reset Focus [disabled]"});
 }
 
-TEST_F(StatusMenuTest, AfterAResetItIsFreshAgain)
+TEST_F(StatusMenuTest, AResetBringsBackTheFirstEntries)
 {
     timer().start();
     tick(3);
@@ -225,7 +225,7 @@ TEST_F(StatusMenuTest, InTheBreakEveryLabelReadsBreak)
     EXPECT_EQ(settledMenu().at(1), "Reset Break");
 }
 
-TEST_F(StatusMenuTest, InTheBreakResetComparesWithTheBreakLength)
+TEST_F(StatusMenuTest, InTheBreakResetDependsOnTheBreakLength)
 {
     settings.focusMinutes.set(5);
     settings.breakMinutes.set(25);
@@ -241,7 +241,7 @@ TEST_F(StatusMenuTest, InTheBreakResetComparesWithTheBreakLength)
     EXPECT_EQ(settledMenu().at(1), "Reset Break [disabled]");
 }
 
-TEST_F(StatusMenuTest, ADurationThatIsInNoListMarksNothing)
+TEST_F(StatusMenuTest, AnUnlistedDurationMarksNothing)
 {
     timer().updateDurations(35, 5);
 
@@ -249,7 +249,7 @@ TEST_F(StatusMenuTest, ADurationThatIsInNoListMarksNothing)
         (Lines{"Focus Duration / 25 minutes", "Presets / 25m focus / 5m break"}));
 }
 
-TEST_F(StatusMenuTest, BuiltWithADurationThatIsInNoListItChecksNone)
+TEST_F(StatusMenuTest, BuiltWithAnUnlistedDurationItChecksNone)
 {
     settings.focusMinutes.set(35);
     settings.breakMinutes.set(7);
@@ -308,7 +308,7 @@ TEST_F(StatusMenuTest, EachPhaseHasMarksOfItsOwn)
             "Focus Music / None", "Focus Music / Lo-Fi [on]", "Break Music / None", "Break Music / Custom URL [on]"}));
 }
 
-TEST_F(StatusMenuTest, AutoTransitionIsMarkedAtBuildAndOnEveryRefresh)
+TEST_F(StatusMenuTest, AutoTransitionIsMarkedWhenBuiltAndOnEveryRefresh)
 {
     settings.autoTransition.set(true);
     EXPECT_EQ(changedLines(freshMenu, settledMenu()), Lines{"Auto-Transition [on]"});
@@ -320,7 +320,7 @@ TEST_F(StatusMenuTest, AutoTransitionIsMarkedAtBuildAndOnEveryRefresh)
     EXPECT_EQ(menu(), freshMenu);
 }
 
-TEST_F(StatusMenuTest, TheHostIsToldOnceForAllThatChangesInATurn)
+TEST_F(StatusMenuTest, AllChangesOfATurnAreReportedAtOnce)
 {
     timer().start();
     settledMenu();
@@ -334,7 +334,7 @@ TEST_F(StatusMenuTest, TheHostIsToldOnceForAllThatChangesInATurn)
     EXPECT_EQ(statusItem->menuChanges, 2) << "a choice that the timer does not announce";
 }
 
-TEST_F(StatusMenuTest, TheHostIsNotToldOfARefreshThatChangesNothing)
+TEST_F(StatusMenuTest, ARefreshThatChangesNothingIsNotReported)
 {
     timer().start();
     settledMenu();

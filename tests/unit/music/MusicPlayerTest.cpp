@@ -69,7 +69,7 @@ TEST_F(MusicPlayerTest, BeginsIdle)
     EXPECT_TRUE(players.opened.empty());
 }
 
-TEST_F(MusicPlayerTest, PlayOpensTheStreamAtTheVolumeAndSaysSo)
+TEST_F(MusicPlayerTest, PlayOpensTheStreamAtTheVolumeAndReportsIt)
 {
     music->play(url, 0.25F);
 
@@ -90,7 +90,7 @@ TEST_F(MusicPlayerTest, PlayPublishesTheAddressBeforeThePlayerAndPlayingAfterIt)
             "isPlaying=true"}));
 }
 
-TEST_F(MusicPlayerTest, ItSaysThatItStartedWhenItIsPlaying)
+TEST_F(MusicPlayerTest, ReportsTheStartOnceItPlays)
 {
     std::string saidBefore = "?";
     const auto playing = music->isPlaying.changes([&](bool now) {
@@ -116,7 +116,7 @@ TEST_F(MusicPlayerTest, PlayingTheSameAddressTwiceStartsItFromScratch)
         "Started playing music from: https://radio.example/live\n");
 }
 
-TEST_F(MusicPlayerTest, AnUnusableAddressStopsWhatPlaysAndIsReported)
+TEST_F(MusicPlayerTest, AnUnusableAddressIsReportedAndStopsTheMusic)
 {
     music->play(url, 0.25F);
     log.take();
@@ -152,7 +152,7 @@ TEST_F(MusicPlayerTest, AnAddressWithLineBreaksIsReportedInOneLine)
     expectState(true, "http://radio.example/\n");
 }
 
-TEST_F(MusicPlayerTest, PlayHandsTheVolumeOnAsItIs)
+TEST_F(MusicPlayerTest, PlayDoesNotLimitTheVolume)
 {
     music->play(url, 1.7F);
     EXPECT_EQ(players.calls.at(1), "1 volume 1.7");
@@ -161,7 +161,7 @@ TEST_F(MusicPlayerTest, PlayHandsTheVolumeOnAsItIs)
     EXPECT_EQ(players.calls.at(6), "2 volume -0.5");
 }
 
-TEST_F(MusicPlayerTest, SetVolumeLimitsToZeroToOneAndTellsNobody)
+TEST_F(MusicPlayerTest, SetVolumeLimitsToZeroToOneWithoutNotifying)
 {
     music->play(url, 0.25F);
     log.take();
@@ -209,7 +209,7 @@ TEST_F(MusicPlayerTest, PauseKeepsTheStreamAndItsAddress)
     expectState(false, url);
 }
 
-TEST_F(MusicPlayerTest, PauseThenStopPausesAgainDiscardsAndClears)
+TEST_F(MusicPlayerTest, StopAfterPausePausesAgainAndDiscardsThePlayer)
 {
     music->play(url, 0.25F);
     music->pause();
@@ -232,7 +232,7 @@ TEST_F(MusicPlayerTest, StopAndPauseWhileIdleStillNotify)
     EXPECT_TRUE(players.calls.empty());
 }
 
-TEST_F(MusicPlayerTest, NothingButPlayPrints)
+TEST_F(MusicPlayerTest, OnlyPlayPrints)
 {
     music->play(url, 0.25F);
     const auto printed = output.str();

@@ -49,7 +49,7 @@ TEST_F(BroadcastTest, ADroppedSubscriptionHearsNothingMore)
     EXPECT_EQ(broadcast->subscriberCount(), 1U);
 }
 
-TEST_F(BroadcastTest, SubscribingAgainGoesToTheEndOfTheOrder)
+TEST_F(BroadcastTest, SubscribingAgainMovesToTheEnd)
 {
     auto a = listen("a");
     const auto b = listen("b");
@@ -60,7 +60,7 @@ TEST_F(BroadcastTest, SubscribingAgainGoesToTheEndOfTheOrder)
     EXPECT_EQ(heard, (Lines{"b1", "again1"}));
 }
 
-TEST_F(BroadcastTest, WhoJoinsDuringADeliveryIsReachedByIt)
+TEST_F(BroadcastTest, ASubscriptionMadeDuringADeliveryIsPartOfIt)
 {
     Subscription late;
     const auto a = listen("a", [&] {
@@ -74,7 +74,7 @@ TEST_F(BroadcastTest, WhoJoinsDuringADeliveryIsReachedByIt)
     EXPECT_EQ(heard, (Lines{"a1", "b1", "late1"}));
 }
 
-TEST_F(BroadcastTest, WhoIsDroppedDuringADeliveryHearsNothingMoreOfIt)
+TEST_F(BroadcastTest, ASubscriptionDroppedDuringADeliveryHearsNothingMoreOfIt)
 {
     Subscription later;
     const auto a = listen("a", [&] { later.cancel(); });
@@ -87,7 +87,7 @@ TEST_F(BroadcastTest, WhoIsDroppedDuringADeliveryHearsNothingMoreOfIt)
     EXPECT_EQ(broadcast->subscriberCount(), 2U);
 }
 
-TEST_F(BroadcastTest, ASubscriberMayDropItself)
+TEST_F(BroadcastTest, ASubscriberMayUnsubscribe)
 {
     Subscription self;
     self = listen("self", [&] { self.cancel(); });
@@ -113,7 +113,7 @@ TEST_F(BroadcastTest, SendingDuringADeliveryReachesEveryoneAtOnce)
     EXPECT_EQ(heard, (Lines{"a1", "a2", "b2", "b1"}));
 }
 
-TEST_F(BroadcastTest, DroppingDuringANestedDeliveryHoldsForBoth)
+TEST_F(BroadcastTest, ASubscriptionDroppedInANestedDeliveryHearsNothingMoreOfEither)
 {
     Subscription victim;
     int depth = 0;
@@ -152,7 +152,7 @@ TEST_F(BroadcastTest, SubscriptionsMayOutliveIt)
 }
 
 // What a subscriber owns may include another subscription to the same broadcast.
-TEST_F(BroadcastTest, ASubscriberMayTakeOthersWithIt)
+TEST_F(BroadcastTest, ASubscriberMayUnsubscribeOthers)
 {
     for (int round = 0; round < 8; ++round) {
         std::vector<Subscription> kept;

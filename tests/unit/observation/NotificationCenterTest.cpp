@@ -34,7 +34,7 @@ TEST_F(NotificationCenterTest, PostsSynchronouslyInTheOrderOfRegistration)
     EXPECT_EQ(heard, (Lines{"a bell 7", "b bell 7"}));
 }
 
-TEST_F(NotificationCenterTest, ReachesOnlyTheObserversOfThatName)
+TEST_F(NotificationCenterTest, ReachesOnlyObserversOfItsName)
 {
     const auto a = listen("a", "bell");
 
@@ -44,7 +44,7 @@ TEST_F(NotificationCenterTest, ReachesOnlyTheObserversOfThatName)
     EXPECT_TRUE(heard.empty());
 }
 
-TEST_F(NotificationCenterTest, CarriesNoObjectUnlessGivenOne)
+TEST_F(NotificationCenterTest, CarriesNoObjectByDefault)
 {
     const auto a = listen("a", "bell");
 

@@ -109,7 +109,7 @@ TEST_F(PublishedTest, OnlyTheOwnerAssignsAReadOnlyValue)
     EXPECT_EQ(model->own(), 4);
 }
 
-TEST_F(PublishedTest, WhoSubscribesDuringANotificationMissesNothing)
+TEST_F(PublishedTest, ASubscriptionMadeDuringANotificationMissesNothing)
 {
     Subscription late;
     const auto a = model->number.changes([&](int value) {
@@ -122,7 +122,7 @@ TEST_F(PublishedTest, WhoSubscribesDuringANotificationMissesNothing)
     EXPECT_EQ(heard, (Lines{"late1 over 1", "late2 over 1"}));
 }
 
-TEST_F(PublishedTest, WhoIsDroppedDuringANotificationHearsNothingMore)
+TEST_F(PublishedTest, ASubscriptionDroppedDuringANotificationHearsNothingMore)
 {
     Subscription later;
     const auto a = model->number.changes([&](int) { later.cancel(); });
@@ -134,7 +134,7 @@ TEST_F(PublishedTest, WhoIsDroppedDuringANotificationHearsNothingMore)
     EXPECT_TRUE(heard.empty());
 }
 
-TEST_F(PublishedTest, AnAssignmentDuringANotificationIsOvertakenByTheOneUnderWay)
+TEST_F(PublishedTest, AnAssignmentDuringANotificationIsOverwrittenByTheOneInProgress)
 {
     const auto a = model->number.changes([&](int value) {
         if (value == 2)

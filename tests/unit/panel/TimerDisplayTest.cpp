@@ -9,7 +9,7 @@ namespace velto {
 
 namespace {
 
-TEST(TimerDisplayTest, AHundredMinutesAreSetSmaller)
+TEST(TimerDisplayTest, FromAHundredMinutesTheDigitsAreSmaller)
 {
     EXPECT_EQ(timeFontSize(0), 64);
     EXPECT_EQ(timeFontSize(5999), 64);
@@ -24,7 +24,7 @@ TEST(TimerDisplayTest, ProgressIsTheFractionElapsed)
     EXPECT_EQ(phaseProgress(0, 1500), 1.0);
 }
 
-TEST(TimerDisplayTest, APhaseWithoutLengthHasNoProgress)
+TEST(TimerDisplayTest, APhaseOfNoLengthHasNoProgress)
 {
     EXPECT_EQ(phaseProgress(0, 0), 0.0);
     EXPECT_EQ(phaseProgress(10, 0), 0.0);
@@ -32,7 +32,7 @@ TEST(TimerDisplayTest, APhaseWithoutLengthHasNoProgress)
     EXPECT_EQ(phaseProgress(0, std::numeric_limits<std::int64_t>::min()), 0.0);
 }
 
-TEST(TimerDisplayTest, MoreRemainingThanThePhaseIsLongIsNegativeProgress)
+TEST(TimerDisplayTest, ProgressIsNegativeWithMoreThanTheLengthRemaining)
 {
     EXPECT_EQ(phaseProgress(120, 60), -1.0);
 }

@@ -62,7 +62,7 @@ TEST(PlacePanelTest, HangsUnderTheButtonWithinTheUsableArea)
     }
 }
 
-TEST(PulledInsideTest, MovesAsLittleAsItTakes)
+TEST(PulledInsideTest, MovesNoFurtherThanNeeded)
 {
     struct Case {
         const char* name;
@@ -107,7 +107,7 @@ protected:
         }};
 };
 
-TEST_F(TimerPanelControllerTest, ThePanelIsMadeOnFirstAccessInItsSizeAndKept)
+TEST_F(TimerPanelControllerTest, IsMadeInItsSizeOnFirstAccessAndKept)
 {
     EXPECT_TRUE(sizesAskedFor.empty());
 
@@ -129,7 +129,7 @@ TEST_F(TimerPanelControllerTest, ShowPlacesItAndBringsItToTheFront)
     EXPECT_EQ(application.activations, 0);
 }
 
-TEST_F(TimerPanelControllerTest, ItIsPlacedAnewOnEveryShow)
+TEST_F(TimerPanelControllerTest, IsPlacedOnEveryShow)
 {
     controller.show(&button);
     button.rect = Rect{20, 1080, 40, 22};
@@ -140,7 +140,7 @@ TEST_F(TimerPanelControllerTest, ItIsPlacedAnewOnEveryShow)
     EXPECT_EQ(panel->fronts, 2);
 }
 
-TEST_F(TimerPanelControllerTest, WhenScreensChangeAVisiblePanelStaysWithinReach)
+TEST_F(TimerPanelControllerTest, AVisiblePanelStaysWithinReachWhenScreensChange)
 {
     const Screen smaller{.frame = {0, 0, 1024, 600}, .visibleFrame = {0, 0, 1024, 572}};
     controller.show(&button);
@@ -156,7 +156,7 @@ TEST_F(TimerPanelControllerTest, WhenScreensChangeAVisiblePanelStaysWithinReach)
     EXPECT_EQ(panel->placements, placements);
 }
 
-TEST_F(TimerPanelControllerTest, APanelOnAScreenThatIsGoneComesToTheMainOne)
+TEST_F(TimerPanelControllerTest, MovesToTheMainScreenWhenItsOwnIsGone)
 {
     const auto mainScreen = screens.screens.front();
     screens.screens.push_back({.frame = {-1920, 0, 1920, 1080}, .visibleFrame = {-1920, 0, 1920, 1055}});
@@ -168,7 +168,7 @@ TEST_F(TimerPanelControllerTest, APanelOnAScreenThatIsGoneComesToTheMainOne)
     EXPECT_EQ(panel->frame, (Rect{0, 457, 360, 420}));
 }
 
-TEST_F(TimerPanelControllerTest, TheScreenOfTheButtonCounts)
+TEST_F(TimerPanelControllerTest, UsesTheScreenOfTheButton)
 {
     screens.screens.push_back({.frame = {-1920, 0, 1920, 1080}, .visibleFrame = {-1920, 0, 1920, 1055}});
     button.rect = Rect{-500, 1058, 40, 22};
@@ -178,7 +178,7 @@ TEST_F(TimerPanelControllerTest, TheScreenOfTheButtonCounts)
     EXPECT_EQ(panel->frame, (Rect{-660, 632, 360, 420}));
 }
 
-TEST_F(TimerPanelControllerTest, AButtonOnNoScreenHangsOnTheMainOne)
+TEST_F(TimerPanelControllerTest, UsesTheMainScreenWhenTheButtonIsOnNone)
 {
     button.rect = Rect{9000, 1080, 40, 22};
 
@@ -187,7 +187,7 @@ TEST_F(TimerPanelControllerTest, AButtonOnNoScreenHangsOnTheMainOne)
     EXPECT_EQ(panel->frame, (Rect{1080, 654, 360, 420}));
 }
 
-TEST_F(TimerPanelControllerTest, WithoutAButtonItHangsAtTheTopCentreOfTheMainScreen)
+TEST_F(TimerPanelControllerTest, WithoutAButtonIsAtTheTopCentreOfTheMainScreen)
 {
     const Rect topCentre{540, 451, 360, 420};
 
@@ -201,7 +201,7 @@ TEST_F(TimerPanelControllerTest, WithoutAButtonItHangsAtTheTopCentreOfTheMainScr
     EXPECT_EQ(monitors(), 1U);
 }
 
-TEST_F(TimerPanelControllerTest, WithoutAScreenItIsShownWhereItWasAndNothingWatches)
+TEST_F(TimerPanelControllerTest, WithoutAScreenIsShownWhereItWasAndNotMonitored)
 {
     screens.screens.clear();
 
@@ -214,7 +214,7 @@ TEST_F(TimerPanelControllerTest, WithoutAScreenItIsShownWhereItWasAndNothingWatc
     }
 }
 
-TEST_F(TimerPanelControllerTest, APressOutsideHidesItAndEndsTheWatch)
+TEST_F(TimerPanelControllerTest, APressOutsideHidesItAndEndsMonitoring)
 {
     controller.show(&button);
     EXPECT_EQ(monitors(), 1U);
@@ -238,7 +238,7 @@ TEST_F(TimerPanelControllerTest, AfterAPressOutsideItCanBeShownAndHiddenAgain)
     EXPECT_EQ(panel->outs, 2);
 }
 
-TEST_F(TimerPanelControllerTest, ShownTwiceOneMonitorIsInstalledAndHideRemovesIt)
+TEST_F(TimerPanelControllerTest, InstallsOneMonitorHoweverOftenShownAndHideRemovesIt)
 {
     controller.show(&button);
     controller.show(&button);
@@ -249,7 +249,7 @@ TEST_F(TimerPanelControllerTest, ShownTwiceOneMonitorIsInstalledAndHideRemovesIt
     EXPECT_EQ(monitors(), 0U);
 }
 
-TEST_F(TimerPanelControllerTest, WhenPressesCannotBeWatchedTheNextShowTriesAgain)
+TEST_F(TimerPanelControllerTest, TheNextShowTriesAgainToMonitorPresses)
 {
     eventMonitor.available = false;
     controller.show(&button);

@@ -16,7 +16,7 @@ protected:
     std::optional<OncePerTurn> work{std::in_place, loop, [this] { ++runs; }};
 };
 
-TEST_F(OncePerTurnTest, RunsOnceInTheNextTurnHoweverOftenItIsAskedFor)
+TEST_F(OncePerTurnTest, RunsOnceInTheNextTurnHoweverOftenRequested)
 {
     work->request();
     work->request();
@@ -29,7 +29,7 @@ TEST_F(OncePerTurnTest, RunsOnceInTheNextTurnHoweverOftenItIsAskedFor)
     EXPECT_EQ(loop.waitingWorks(), 0U);
 }
 
-TEST_F(OncePerTurnTest, CanBeAskedForAgainEvenByTheWorkItself)
+TEST_F(OncePerTurnTest, CanBeRequestedAgainEvenByTheWorkItself)
 {
     work.emplace(loop, [this] {
         if (++runs < 3)
@@ -55,7 +55,7 @@ TEST_F(OncePerTurnTest, RunNowLeavesNothingWaiting)
     EXPECT_EQ(runs, 2) << "nobody had asked";
 }
 
-TEST_F(OncePerTurnTest, WhatIsCancelledOrDestroyedDoesNotRun)
+TEST_F(OncePerTurnTest, DoesNotRunOnceCancelledOrDestroyed)
 {
     work->request();
     work->cancel();

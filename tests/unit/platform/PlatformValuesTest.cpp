@@ -19,7 +19,7 @@ TEST(RectTest, KnowsItsEdgesAndMiddle)
     EXPECT_EQ(rect.size(), (Size{41, 22}));
 }
 
-TEST(RectTest, HoldsItsLeftAndBottomEdgesButNotItsRightAndTop)
+TEST(RectTest, ContainsItsLeftAndBottomEdgesButNotItsRightAndTop)
 {
     const Rect rect{0, 0, 10, 10};
 

@@ -105,7 +105,7 @@ TEST_F(AppSettingsTest, LoadsWhatIsStored)
     EXPECT_EQ(settings.musicVolume(), 0.75F);
 }
 
-TEST_F(AppSettingsTest, ZeroAndNegativeMinutesAreLoadedAsTheyAre)
+TEST_F(AppSettingsTest, ZeroAndNegativeMinutesAreKept)
 {
     store.values["focusMinutes"] = std::int64_t{0};
     store.values["breakMinutes"] = std::int64_t{-3};
@@ -163,7 +163,7 @@ TEST_F(AppSettingsTest, AValueOfTheWrongKindCountsAsTheDefault)
     }
 }
 
-TEST_F(AppSettingsTest, ASoundIsReadAsOneJsonStringOrCountsAsTheDefault)
+TEST_F(AppSettingsTest, AStoredSoundIsAJsonStringOrCountsAsTheDefault)
 {
     const std::vector<std::pair<std::string, SoundOption>> cases{
         {quoted("Basso"), SoundOption::basso},
@@ -226,14 +226,14 @@ TEST_F(AppSettingsTest, EveryAssignmentIsWrittenAtOnceUnderItsKey)
         }));
 }
 
-TEST_F(AppSettingsTest, AssigningNoneStoresASixByteBlob)
+TEST_F(AppSettingsTest, StoresNoneAsASixByteBlob)
 {
     load().focusEndSound.set(SoundOption::none);
 
     EXPECT_EQ(store.object("focusEndSound"), StoredValue(Blob{0x22, 'N', 'o', 'n', 'e', 0x22}));
 }
 
-TEST_F(AppSettingsTest, WhatIsWrittenIsLoadedAgain)
+TEST_F(AppSettingsTest, LoadsWhatItWrote)
 {
     for (const auto sound : allSoundOptions) {
         load().breakEndSound.set(sound);
@@ -245,7 +245,7 @@ TEST_F(AppSettingsTest, WhatIsWrittenIsLoadedAgain)
     }
 }
 
-TEST_F(AppSettingsTest, ObserversHearFirstThenMemoryThenTheStoreChanges)
+TEST_F(AppSettingsTest, AnAssignmentNotifiesThenSetsThenStores)
 {
     auto settings = load();
     std::vector<std::string> steps;
@@ -264,7 +264,7 @@ TEST_F(AppSettingsTest, ObserversHearFirstThenMemoryThenTheStoreChanges)
             "object at 25 after 0 writes", "value at 25 after 0 writes", "written at 30 after 1 writes"}));
 }
 
-TEST_F(AppSettingsTest, AssigningTheValueHeldStillNotifiesAndWrites)
+TEST_F(AppSettingsTest, AssigningAnEqualValueStillNotifiesAndWrites)
 {
     auto settings = load();
     int notified = 0;
@@ -308,7 +308,7 @@ TEST_F(AppSettingsTest, APresetHasItsOwnStreamWhateverTheCustomAddress)
     EXPECT_EQ(settings.getBreakMusicURL(), streamUrl(MusicPreset::ambient));
 }
 
-TEST_F(AppSettingsTest, CustomGivesExactlyWhatTheUserTypedEvenNothing)
+TEST_F(AppSettingsTest, CustomIsExactlyWhatTheUserTypedEvenNothing)
 {
     auto settings = load();
     settings.focusMusicPreset.set(MusicPreset::custom);
@@ -319,14 +319,14 @@ TEST_F(AppSettingsTest, CustomGivesExactlyWhatTheUserTypedEvenNothing)
     EXPECT_EQ(settings.getBreakMusicURL(), "");
 }
 
-TEST_F(AppSettingsTest, PlayingNoneNeverConsultsTheLibrary)
+TEST_F(AppSettingsTest, PlayingNoneDoesNotAskTheLibrary)
 {
     load().playSound(SoundOption::none);
 
     EXPECT_TRUE(sounds.asked.empty());
 }
 
-TEST_F(AppSettingsTest, EveryOtherSoundIsAskedForByExactlyItsNameAndPlayed)
+TEST_F(AppSettingsTest, EveryOtherSoundIsLookedUpByItsExactNameAndPlayed)
 {
     std::vector<std::string> names;
     for (const auto sound : allSoundOptions) {
@@ -340,7 +340,7 @@ TEST_F(AppSettingsTest, EveryOtherSoundIsAskedForByExactlyItsNameAndPlayed)
     EXPECT_EQ(names.size(), 14U);
 }
 
-TEST_F(AppSettingsTest, ASoundTheSystemLacksIsSkippedSilently)
+TEST_F(AppSettingsTest, AMissingSoundIsSkippedSilently)
 {
     sounds.missing = {"Submarine"};
 

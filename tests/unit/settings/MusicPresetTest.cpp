@@ -54,7 +54,7 @@ TEST(MusicPresetTest, EachIsFoundByItsName)
         EXPECT_EQ(musicPreset(row.name), row.preset);
 }
 
-TEST(MusicPresetTest, TheNameInAnyOtherLetterCaseIsNoPreset)
+TEST(MusicPresetTest, NamesAreMatchedExactly)
 {
     for (const auto* text : {"Def Con Radio", "def con radio", "DEF CON RADIO", "DEF CON Radio ", "Custom", ""})
         EXPECT_EQ(musicPreset(text), std::nullopt) << text;

@@ -29,7 +29,7 @@ TEST(SoundOptionTest, EachIsFoundByItsName)
         EXPECT_EQ(soundOption(rawValue(sound)), sound);
 }
 
-TEST(SoundOptionTest, AnotherLetterCaseOrASpaceMoreIsNoSound)
+TEST(SoundOptionTest, NamesAreMatchedExactly)
 {
     for (const auto* text : {"glass", "GLASS", "Glass ", " Glass", "Glas", "Gong", ""})
         EXPECT_EQ(soundOption(text), std::nullopt) << text;

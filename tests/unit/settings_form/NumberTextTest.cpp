@@ -120,7 +120,7 @@ TEST_P(NumberTextInputTest, TakesOrRestoresTheValueWhenEditingEnds)
     EXPECT_EQ(owner.value(), GetParam().value);
 }
 
-TEST_P(NumberTextInputTest, IsReplacedByANewValueFromElsewhere)
+TEST_P(NumberTextInputTest, ANewValueReplacesTheText)
 {
     number.setText(GetParam().entered);
 

@@ -15,7 +15,7 @@ const std::string lush{streamUrl(MusicPreset::lush)};
 
 } // namespace
 
-TEST_F(SettingsFormMusicTest, APausedTimersMusicIsLeftAsItIs)
+TEST_F(SettingsFormMusicTest, LeavesTheMusicOfAPausedTimerAlone)
 {
     storeMusic(MusicPreset::lofi);
     timer().start();
@@ -26,7 +26,7 @@ TEST_F(SettingsFormMusicTest, APausedTimersMusicIsLeftAsItIs)
     EXPECT_THAT(applied(), IsEmpty());
 }
 
-TEST_F(SettingsFormMusicTest, AnIdleTimersMusicIsLeftAsItIs)
+TEST_F(SettingsFormMusicTest, LeavesTheMusicOfAnIdleTimerAlone)
 {
     open();
     form->enableFocusMusic.set(true);
@@ -69,7 +69,7 @@ TEST_F(SettingsFormMusicTest, SwitchingTheFocusMusicOnDuringARunningFocusStartsI
             "player 1 made", "player 1 volume 0.5", "player 1 play", "isPlaying 1"));
 }
 
-TEST_F(SettingsFormMusicTest, AnotherSourceIsOpenedAtOnceWhileItsPhaseRuns)
+TEST_F(SettingsFormMusicTest, ANewSourceOfTheRunningPhaseIsOpenedAtOnce)
 {
     storeMusic(MusicPreset::lofi);
     timer().start();
@@ -81,7 +81,7 @@ TEST_F(SettingsFormMusicTest, AnotherSourceIsOpenedAtOnceWhileItsPhaseRuns)
             "player 2 made", "player 2 volume 0.25", "player 2 play", "isPlaying 1"));
 }
 
-TEST_F(SettingsFormMusicTest, AnotherSourceOfTheOtherPhaseWaitsForItsStart)
+TEST_F(SettingsFormMusicTest, ANewSourceOfTheOtherPhaseWaitsForItsStart)
 {
     storeMusic(MusicPreset::lofi);
     timer().start();
@@ -109,7 +109,7 @@ TEST_F(SettingsFormMusicTest, ABreakComparesItsOwnSource)
     EXPECT_THAT(applied(), testing::Contains("URL http://break/2"));
 }
 
-TEST_F(SettingsFormMusicTest, AnotherSourceOfSilencedMusicRestartsNothing)
+TEST_F(SettingsFormMusicTest, ANewSourceOfMusicThatIsOffRestartsNothing)
 {
     timer().start();
     open();
@@ -143,7 +143,7 @@ TEST_F(SettingsFormMusicTest, TheStoredCustomAddressIsAChangeWhenAnotherPresetWa
             "URL http://radio/1", "player 2 made", "player 2 volume 0.25", "player 2 play", "isPlaying 1"));
 }
 
-TEST_F(SettingsFormMusicTest, AnotherCustomAddressIsAChangeToTheLetter)
+TEST_F(SettingsFormMusicTest, AnyOtherCustomAddressIsAChange)
 {
     storeMusic(MusicPreset::custom, "http://radio/1");
     timer().start();
@@ -153,7 +153,7 @@ TEST_F(SettingsFormMusicTest, AnotherCustomAddressIsAChangeToTheLetter)
     EXPECT_THAT(applied(), testing::Contains("URL http://radio/1 "));
 }
 
-TEST_F(SettingsFormMusicTest, ACustomAddressBehindAnotherPresetIsNoChange)
+TEST_F(SettingsFormMusicTest, ACustomAddressIsNoChangeUnderAnotherPreset)
 {
     storeMusic(MusicPreset::lofi, "http://radio/1");
     timer().start();
@@ -164,7 +164,7 @@ TEST_F(SettingsFormMusicTest, ACustomAddressBehindAnotherPresetIsNoChange)
     EXPECT_EQ(settings.focusCustomURL(), "http://radio/2");
 }
 
-TEST_F(SettingsFormMusicTest, AnUnusableAddressIsStoredAsTypedAndLeavesSilence)
+TEST_F(SettingsFormMusicTest, AnUnusableAddressIsStoredAndLeavesSilence)
 {
     storeMusic(MusicPreset::custom, "http://radio/1");
     timer().start();
@@ -178,7 +178,7 @@ TEST_F(SettingsFormMusicTest, AnUnusableAddressIsStoredAsTypedAndLeavesSilence)
     EXPECT_EQ(settings.focusCustomURL(), "no address");
 }
 
-TEST_F(SettingsFormMusicTest, AResettingUpdateEndsTheMusicOfARunningPhaseForGood)
+TEST_F(SettingsFormMusicTest, AnUpdateThatResetsEndsTheMusicForGood)
 {
     storeMusic(MusicPreset::lofi);
     timer().start();
@@ -194,7 +194,7 @@ TEST_F(SettingsFormMusicTest, AResettingUpdateEndsTheMusicOfARunningPhaseForGood
 
 // Loudness.
 
-TEST_F(SettingsFormMusicTest, TheLoudnessIsHeardAtOnceAndCancelRestoresIt)
+TEST_F(SettingsFormMusicTest, TheVolumeIsHeardAtOnceAndCancelRestoresIt)
 {
     storeMusic(MusicPreset::lofi);
     timer().start();
@@ -209,7 +209,7 @@ TEST_F(SettingsFormMusicTest, TheLoudnessIsHeardAtOnceAndCancelRestoresIt)
     EXPECT_FALSE(store.value<float>("musicVolume"));
 }
 
-TEST_F(SettingsFormMusicTest, AFormThatGoesUnappliedRestoresTheLoudness)
+TEST_F(SettingsFormMusicTest, AFormDestroyedUnappliedRestoresTheVolume)
 {
     storeMusic(MusicPreset::lofi);
     timer().start();
@@ -221,7 +221,7 @@ TEST_F(SettingsFormMusicTest, AFormThatGoesUnappliedRestoresTheLoudness)
     EXPECT_THAT(calls, ElementsAre("player 1 volume 0.75", "player 1 volume 0.25"));
 }
 
-TEST_F(SettingsFormMusicTest, OnceItIsAppliedOrCancelledAFormLeavesTheLoudnessAlone)
+TEST_F(SettingsFormMusicTest, AnAppliedOrCancelledFormLeavesTheVolumeAlone)
 {
     storeMusic(MusicPreset::lofi);
     timer().start();
@@ -236,7 +236,7 @@ TEST_F(SettingsFormMusicTest, OnceItIsAppliedOrCancelledAFormLeavesTheLoudnessAl
     }
 }
 
-TEST_F(SettingsFormMusicTest, TheLoudnessIsHeardWithinItsRange)
+TEST_F(SettingsFormMusicTest, TheVolumeIsLimitedToItsRange)
 {
     storeMusic(MusicPreset::lofi);
     settings.musicVolume.set(1.75F);
@@ -249,7 +249,7 @@ TEST_F(SettingsFormMusicTest, TheLoudnessIsHeardWithinItsRange)
     EXPECT_THAT(calls, ElementsAre("player 1 volume 0", "player 1 volume 1"));
 }
 
-TEST_F(SettingsFormMusicTest, TheLoudnessHasNoEffectWhileNothingIsOpen)
+TEST_F(SettingsFormMusicTest, TheVolumeHasNoEffectWithoutAStream)
 {
     open();
 

@@ -44,7 +44,7 @@ TEST_F(SettingsFormTest, StartsFromTheCurrentSettings)
     EXPECT_THAT(calls, IsEmpty());
 }
 
-TEST_F(SettingsFormTest, AnOpenFormIsNotRefreshedByLaterChangesOfTheSettings)
+TEST_F(SettingsFormTest, AnOpenFormIgnoresLaterChangesOfTheSettings)
 {
     open();
 
@@ -55,7 +55,7 @@ TEST_F(SettingsFormTest, AnOpenFormIsNotRefreshedByLaterChangesOfTheSettings)
     EXPECT_FALSE(form->enableFocusMusic());
 }
 
-TEST_F(SettingsFormTest, NothingButTheLoudnessLeavesTheFormBeforeApply)
+TEST_F(SettingsFormTest, OnlyTheVolumeTakesEffectBeforeApply)
 {
     open();
 
@@ -128,7 +128,7 @@ TEST_F(SettingsFormTest, ApplyingWritesEveryEditedValue)
     EXPECT_EQ(settings.musicVolume(), 0.75F);
 }
 
-TEST_F(SettingsFormTest, TheMusicOfEachPhaseIsSwitchedOnItsOwn)
+TEST_F(SettingsFormTest, EachPhasesMusicIsSwitchedSeparately)
 {
     settings.enableBreakMusic.set(true);
     open();
@@ -145,7 +145,7 @@ TEST_F(SettingsFormTest, TheMusicOfEachPhaseIsSwitchedOnItsOwn)
 
 // Durations.
 
-TEST_F(SettingsFormTest, OtherBreakMinutesLeaveARunningFocusAlone)
+TEST_F(SettingsFormTest, NewBreakMinutesLeaveARunningFocusAlone)
 {
     timer().start();
     runLoop.advance(30s);
@@ -158,7 +158,7 @@ TEST_F(SettingsFormTest, OtherBreakMinutesLeaveARunningFocusAlone)
     EXPECT_EQ(timer().breakDuration(), 7 * 60);
 }
 
-TEST_F(SettingsFormTest, OtherFocusMinutesStartARunningFocusOver)
+TEST_F(SettingsFormTest, NewFocusMinutesRestartARunningFocus)
 {
     timer().start();
     runLoop.advance(30s);
@@ -170,7 +170,7 @@ TEST_F(SettingsFormTest, OtherFocusMinutesStartARunningFocusOver)
     EXPECT_EQ(timer().remainingSeconds(), 600);
 }
 
-TEST_F(SettingsFormTest, BothDurationsChangedDuringAFocusTakeOneResettingUpdate)
+TEST_F(SettingsFormTest, ChangingBothDurationsDuringAFocusResetsOnce)
 {
     open();
     form->focusMinutes.set(10);
@@ -181,7 +181,7 @@ TEST_F(SettingsFormTest, BothDurationsChangedDuringAFocusTakeOneResettingUpdate)
     EXPECT_EQ(timer().breakDuration(), 120);
 }
 
-TEST_F(SettingsFormTest, BothDurationsChangedDuringABreakTakeOneResettingUpdate)
+TEST_F(SettingsFormTest, ChangingBothDurationsDuringABreakResetsOnce)
 {
     timer().switchToPhase(PomodoroPhase::breakTime);
     open();
@@ -192,7 +192,7 @@ TEST_F(SettingsFormTest, BothDurationsChangedDuringABreakTakeOneResettingUpdate)
     EXPECT_EQ(timer().remainingSeconds(), 120);
 }
 
-TEST_F(SettingsFormTest, OtherFocusMinutesLeaveARunningBreakAlone)
+TEST_F(SettingsFormTest, NewFocusMinutesLeaveARunningBreakAlone)
 {
     timer().switchToPhase(PomodoroPhase::breakTime);
     timer().start();
@@ -204,7 +204,7 @@ TEST_F(SettingsFormTest, OtherFocusMinutesLeaveARunningBreakAlone)
     EXPECT_EQ(timer().focusDuration(), 600);
 }
 
-TEST_F(SettingsFormTest, OtherBreakMinutesStartARunningBreakOver)
+TEST_F(SettingsFormTest, NewBreakMinutesRestartARunningBreak)
 {
     timer().switchToPhase(PomodoroPhase::breakTime);
     timer().start();
@@ -215,7 +215,7 @@ TEST_F(SettingsFormTest, OtherBreakMinutesStartARunningBreakOver)
     EXPECT_EQ(timer().remainingSeconds(), 120);
 }
 
-TEST_F(SettingsFormTest, WhatCountsAsAChangeIsTheSettingNotTheOpenedValue)
+TEST_F(SettingsFormTest, ChangesAreRelativeToTheSettingNotTheOpenedValue)
 {
     open();
     settings.focusMinutes.set(50);
@@ -225,7 +225,7 @@ TEST_F(SettingsFormTest, WhatCountsAsAChangeIsTheSettingNotTheOpenedValue)
     EXPECT_EQ(timer().focusDuration(), 1500);
 }
 
-TEST_F(SettingsFormTest, CanBeAppliedFromOneMinuteOn)
+TEST_F(SettingsFormTest, CanBeAppliedFromOneMinuteUp)
 {
     open();
 
@@ -272,7 +272,7 @@ TEST_F(SettingsFormTest, PreviewPlaysTheSoundAndChangesNothing)
     EXPECT_EQ(form->countdownSound(), SoundOption::tink);
 }
 
-TEST(PercentTextTest, IsCutOffTowardZero)
+TEST(PercentTextTest, RoundsTowardZero)
 {
     EXPECT_EQ(percentText(0.25F), "25%");
     EXPECT_EQ(percentText(0.999F), "99%");

@@ -21,7 +21,7 @@ protected:
     FakeRunLoop loop;
 };
 
-TEST_F(FakeRunLoopTest, RunsWhatIsDueInTheOrderOfTheDeadlines)
+TEST_F(FakeRunLoopTest, RunsInTheOrderOfTheDeadlines)
 {
     const auto late = loop.after(600ms, note("600"));
     const auto soon = loop.after(400ms, note("400"));
@@ -61,7 +61,7 @@ TEST_F(FakeRunLoopTest, WorkMayCancelItself)
     EXPECT_EQ(loop.liveTimers(), 0U);
 }
 
-TEST_F(FakeRunLoopTest, WhatIsDroppedDoesNotRun)
+TEST_F(FakeRunLoopTest, CancelledWorkDoesNotRun)
 {
     auto timer = loop.after(10ms, note("timer"));
     auto turn = loop.nextTurn(note("turn"));
@@ -75,7 +75,7 @@ TEST_F(FakeRunLoopTest, WhatIsDroppedDoesNotRun)
     EXPECT_TRUE(lines.empty());
 }
 
-TEST_F(FakeRunLoopTest, ATurnMayCancelALaterWorkOfTheSameTurn)
+TEST_F(FakeRunLoopTest, WorkMayCancelLaterWorkOfTheSameTurn)
 {
     Subscription later;
     const auto first = loop.nextTurn([&] { later.cancel(); });
