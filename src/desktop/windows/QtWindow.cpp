@@ -39,7 +39,7 @@ void hideTitle(const QWidget& window)
             noBreakSpace.size(), noBreakSpace.data());
 }
 
-/// Drawn here: what lets Qt read such a picture by itself is a plug-in that may not be installed. The smallest have
+/// Drawn here: what lets Qt read such a picture by itself is a plug-in that may not be installed. The small ones have
 /// drawings of their own.
 QIcon applicationIcon()
 {
