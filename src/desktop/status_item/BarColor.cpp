@@ -8,7 +8,6 @@
 #include <QImage>
 #include <QPixmap>
 #include <QScreen>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <array>
@@ -20,7 +19,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr std::array settlingTimes{300ms, 2500ms};
+constexpr std::array settlingTimes{150ms, 450ms, 2400ms, 10000ms};
 constexpr auto goodFor = 60s;
 
 bool mayChangeABar(xcb_atom_t property)
@@ -76,20 +75,16 @@ QColor medianOf(const QImage& picture)
 
 BarColor::BarColor()
 {
-    if (!x11::seesTheScreen())
-        return;
+    if (qgetenv("XDG_CURRENT_DESKTOP").split(':').contains("KDE")) {
+        m_plasma.emplace();
+        connect(&*m_plasma, &PlasmaPanelColor::changed, this, &BarColor::lookSoon);
+    }
     m_settle.setSingleShot(true);
     connect(&m_settle, &QTimer::timeout, this, &BarColor::lookAfterChange);
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &BarColor::lookSoon);
-    qApp->installNativeEventFilter(this);
-    // Plasma's shell reads its theme from a file; nothing else announces a change.
-    if (qgetenv("XDG_CURRENT_DESKTOP").split(':').contains("KDE")) {
-        m_plasmaSettings.addPath(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
-        connect(&m_plasmaSettings, &QFileSystemWatcher::directoryChanged, this, &BarColor::lookSoon);
-    }
-    findPlace();
-    look();
-    lookSoon();
+    if (x11::seesTheScreen())
+        qApp->installNativeEventFilter(this);
+    lookNow();
 }
 
 void BarColor::setItem(const QRect& item)
@@ -119,21 +114,31 @@ bool BarColor::nativeEventFilter(const QByteArray& /*eventType*/, void* message,
     return false;
 }
 
+void BarColor::lookNow()
+{
+    if (x11::seesTheScreen())
+        findPlace();
+    look();
+    lookSoon();
+}
+
 void BarColor::lookSoon()
 {
-    if (!x11::seesTheScreen())
+    if (!x11::seesTheScreen()) {
+        look();
         return;
+    }
     m_looksToCome = settlingTimes.size();
     m_settle.start(settlingTimes.front());
 }
 
-/// Some bars are redrawn at once; others fade, or wait for their wallpaper.
+/// Some bars are redrawn at once; others fade, or wait for their wallpaper, or have a busy machine.
 void BarColor::lookAfterChange()
 {
     findPlace();
     look();
     if (--m_looksToCome > 0)
-        m_settle.start(settlingTimes.back());
+        m_settle.start(settlingTimes[settlingTimes.size() - m_looksToCome]);
 }
 
 std::vector<BarColor::Bar> BarColor::bars()
@@ -175,6 +180,8 @@ void BarColor::look()
 {
     m_lastLook.start();
     std::optional<QColor> seen;
+    if (m_plasma && !x11::seesTheScreen())
+        seen = PlasmaPanelColor::read();
     if (m_place) {
         auto* screen = screenAt(m_place->area.center());
         const auto visible = m_place->area & screen->geometry();

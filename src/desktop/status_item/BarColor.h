@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/status_item/PlasmaPanelColor.h"
+
 #include <QAbstractNativeEventFilter>
 #include <QColor>
 #include <QElapsedTimer>
-#include <QFileSystemWatcher>
 #include <QObject>
 #include <QRect>
 #include <QTimer>
@@ -16,7 +17,8 @@
 
 namespace velto {
 
-/// The colour of the panel bar behind the status item, as seen on the X screen.
+/// The colour of the panel bar behind the status item, as seen on the X screen; in a Wayland session, where nobody can
+/// look at a bar, as Plasma's settings have it.
 ///
 /// Looks again when asked to, and when something changes that may change the bar, such as a theme, a wallpaper or a
 /// dock. Idle while nothing changes. Main thread only.
@@ -26,13 +28,15 @@ class BarColor final : public QObject, public QAbstractNativeEventFilter {
 public:
     BarColor();
 
-    /// Absent if no bar can be seen.
+    /// Absent if no bar can be seen and no settings tell.
     [[nodiscard]] const std::optional<QColor>& color() const { return m_color; }
 
     /// Where the item stands, in points. Until this is called, the end of the longest bar counts.
     void setItem(const QRect& item);
     /// Looks again if the last look was a while ago. Cheap.
     void refresh();
+    /// Looks at once, and again when things have settled.
+    void lookNow();
 
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
 
@@ -59,9 +63,9 @@ private:
     std::vector<Bar> m_bars;
     std::optional<Bar> m_place; ///< The part of a bar to look at.
     std::optional<QColor> m_color;
-    QFileSystemWatcher m_plasmaSettings;
+    std::optional<PlasmaPanelColor> m_plasma; ///< In a session of Plasma.
     QTimer m_settle;
-    int m_looksToCome = 0;
+    std::size_t m_looksToCome = 0;
     QElapsedTimer m_lastLook;
 };
 

@@ -229,7 +229,7 @@ void DesktopStatusItem::hostChanged()
         m_lastAnchor.reset();
     }
     m_traits = recognizeStatusHost(*m_onBus->hosts.host());
-    m_barColor.lookSoon();
+    m_barColor.lookNow();
     m_onBus->menu.setLeadingItem(m_traits.leftClickOpensMenu ? panelItem() : nullptr);
     drawPicture();
 }

@@ -1,13 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/status_item/BarColor.h"
 
+#include "FakeWatcher.h"
+#include "desktop/bus/SessionBus.h"
+#include "desktop/status_item/ClickGesture.h"
+#include "desktop/status_item/DesktopStatusItem.h"
 #include "desktop/x11/X11Desktop.h"
+#include "fixtures/BusClient.h"
 #include "fixtures/Desktop.h"
 #include "fixtures/OtherWindow.h"
+#include "support/FakeRunLoop.h"
 
 #include <gtest/gtest.h>
 
 #include <QTest>
+
+#include <algorithm>
 
 namespace velto {
 
@@ -46,7 +54,7 @@ TEST_F(BarColorTest, FollowsABarThatComesAndNoOtherWindow)
 {
     BarColor seen;
     ASSERT_EQ(seen.color(), QColor(0x80, 0x80, 0x80));
-    QTest::qWait(3500); // It looks twice more after the start.
+    QTest::qWait(3500); // Its next look is ten seconds away.
 
     paint(bar, 0x204060);
     ordinary.show();
@@ -57,6 +65,28 @@ TEST_F(BarColorTest, FollowsABarThatComesAndNoOtherWindow)
     second.show();
     list({bar.id(), ordinary.id(), second.id()});
     EXPECT_TRUE(eventually([&] { return seen.color() == QColor(0x20, 0x40, 0x60); }));
+}
+
+TEST_F(BarColorTest, IsLookedAtForTheFirstPicture)
+{
+    paint(bar, 0x000000);
+    FakeRunLoop runLoop;
+    ClickGesture gesture(runLoop);
+    SessionBus bus(QStringLiteral("item"));
+    DesktopStatusItem item(
+        gesture, [](ClickEvent, const std::function<void()>&) {}, bus);
+    item.button()->setFont(12);
+    item.button()->setTitle("25:00");
+    BusClient client(bus.connection().baseService());
+    QTest::qWait(3500);
+    paint(this->bar, 0xffffff);
+
+    FakeWatcher watcher;
+    QTest::qWait(2000);
+
+    const auto heard = client.takeSignals();
+    EXPECT_EQ(std::ranges::count(heard, QStringLiteral("NewIcon"), &QDBusMessage::member), 1)
+        << "A first picture was wrong.";
 }
 
 } // namespace velto
