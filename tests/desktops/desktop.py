@@ -3,8 +3,14 @@
 import os
 from dataclasses import dataclass
 
-from root import PROJECT, Root, Session
-from waiting import wait_for
+import gi
+
+gi.require_version("GdkPixbuf", "2.0")
+from gi.repository import GdkPixbuf  # noqa: E402
+
+from framebuffer import Picture  # noqa: E402
+from root import PROJECT, Root, Session  # noqa: E402
+from waiting import wait_for  # noqa: E402
 
 _HERE = os.path.join(PROJECT, "tests", "desktops")
 
@@ -22,7 +28,9 @@ class Desktop:
     START = ""  # see Session
     USER = 0
     PLACES_CARDS = True  # where velto wants them
+    TOGGLING_BUTTON = 1  # what shows and hides the card, pressed on the time
     HAS_STRIP = False  # and no place for items
+    THEMES = {"": None}  # by name: whether the bar is dark then, where that is known
 
     def __init__(self, folder, name):
         self._folder, self._name = folder, name
@@ -47,6 +55,9 @@ class Desktop:
 
     def prepare(self):
         """Once, when it is up."""
+
+    def use_theme(self, name):
+        """One of THEMES."""
 
     # Each desktop has its own:
     # click(x, y, button=1), type(text), key(name), picture(path); windows(): the visible ones, lowest first;
@@ -83,4 +94,20 @@ class Desktop:
         return self.session.run("cat", "/tmp/typed")
 
     def save_picture(self, what):
-        self.picture(os.path.join(self._folder, f"{self._name}-{what}.png"))
+        """Returns its path."""
+        path = os.path.join(self._folder, f"{self._name}-{what}.png")
+        self.picture(path)
+        return path
+
+    def look_at_item(self, what):
+        """The middle of the time in its bar, as it is on the screen; `what` is for the name of that picture."""
+        seen = GdkPixbuf.Pixbuf.new_from_file(self.save_picture(what))
+        pixels, channels = seen.get_pixels(), seen.get_n_channels()
+        width, height = seen.get_width(), seen.get_height()
+        rgb = bytearray(3 * width * height)
+        for row in range(height):
+            line = pixels[row * seen.get_rowstride():][:width * channels]
+            for channel in range(3):
+                rgb[3 * width * row + channel:3 * width * (row + 1):3] = line[channel::channels]
+        x, y = self.item_place()
+        return Picture(width, height, bytes(rgb)).crop(x - 13, y - 12, 26, 24)

@@ -9,6 +9,8 @@ from x11 import X11Desktop
 
 _SHELL = """
 export LIBGL_ALWAYS_SOFTWARE=1 KDE_FULL_SESSION=true KDE_SESSION_VERSION=5
+mkdir -p ~/.config/kdedefaults
+export XDG_CONFIG_DIRS=$HOME/.config/kdedefaults:/etc/xdg # as startplasma has it
 dbus-update-activation-environment --all
 kded5 &
 plasmashell &
@@ -60,9 +62,26 @@ class _Plasma:
     PACKAGES = """kwin-x11 kwin-wayland plasma-workspace plasma-workspace-wayland plasma-desktop kded5 xvfb gcc libc6-dev
         libwayland-dev libwayland-bin plasma-wayland-protocols""".split()
 
+    THEMES = {  # the colours of the applications, and the panel's own
+        "BreezeLight default": False,
+        "BreezeDark default": True,
+        "BreezeLight breeze-dark": True,
+        "BreezeDark breeze-light": False,
+        "org.kde.breezetwilight.desktop": True,
+        "org.kde.breeze.desktop": False,
+    }
+
     def prepare(self):
         super().prepare()
         wait_for(lambda: self.window("Plasma"), what="the panel")
+
+    def use_theme(self, name):
+        colors, _, style = name.partition(" ")
+        if style:
+            self.session.run("plasma-apply-colorscheme", colors)
+            self.session.run("plasma-apply-desktoptheme", style)
+        else:
+            self.session.run("plasma-apply-lookandfeel", "-a", name)
 
     def windows(self):
         return [Window(title, tuple(round(side) for side in rectangle), focused) for title, rectangle, focused

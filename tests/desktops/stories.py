@@ -4,6 +4,7 @@ import string
 import time
 import unittest
 
+from legible import background, contrast_of_digits, luminance
 from waiting import holds, wait_for
 
 desktop = None
@@ -17,21 +18,24 @@ class Story(unittest.TestCase):
         self.beside = x + 20, y + height - 20
         desktop.click(*self.beside)
         wait_for(lambda: desktop.window("editor").focused, what="the keyboard in the editor")
-        desktop.velto("start", *self.settings)
         self.addCleanup(desktop.end_velto)
+        self.start()
+
+    def start(self):
+        desktop.velto("start", *self.settings)
         wait_for(lambda: desktop.card, what="the card, shown at launch")
 
-    def click_item(self, button=1):
+    def click_item(self, button):
         # Sooner, it is a double click to some bars, or belongs to the press that has just hidden the card.
         time.sleep(1)
         desktop.click(*desktop.item_place(), button)
 
     def hide(self):
-        self.click_item()
+        self.click_item(desktop.TOGGLING_BUTTON)
         wait_for(lambda: not desktop.card, what="the hidden card")
 
     def show(self):
-        self.click_item()
+        self.click_item(desktop.TOGGLING_BUTTON)
         wait_for(lambda: desktop.card, what="the card")
 
     def form_is_used(self):
@@ -44,6 +48,27 @@ class Stories(Story):
     def test_the_time_is_seen(self):
         self.assertEqual(desktop.velto("label"), "25:00")
         desktop.save_picture("launch")
+
+    def test_the_time_can_be_read_with_each_theme_from_the_start_and_after_a_change(self):
+        for theme, is_dark in desktop.THEMES.items():
+            desktop.use_theme(theme)
+            for when in "changed", "started":
+                with self.subTest(theme=theme, when=when):
+                    self.wait_until_legible(f"theme-{theme}-{when}".replace(" ", "-"), is_dark)
+                desktop.end_velto()
+                self.start()
+
+    def wait_until_legible(self, what, is_dark):
+        seen = None
+
+        def is_legible():
+            nonlocal seen
+            seen = desktop.look_at_item(what)
+            return is_dark in (None, luminance(background(seen)) < 0.18) and contrast_of_digits(seen) >= 4.5
+        try:
+            wait_for(is_legible, 25, what="digits that can be read")
+        finally:
+            print(f"{what}: {contrast_of_digits(seen):.1f}:1 on {background(seen)}", flush=True)
 
     def test_clicks_on_the_time_toggle_the_card_under_it(self):
         for _ in range(3):

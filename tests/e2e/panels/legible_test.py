@@ -1,27 +1,10 @@
 # SPDX-License-Identifier: MIT
 """The time can be read on every bar: 4.5 to 1 at least against what is really behind it."""
 import os
-import statistics
 import unittest
 
 from desktop import VirtualDesktop, wait_for
-
-
-def luminance(colour):
-    def linear(channel):
-        part = channel / 255
-        return part / 12.92 if part <= 0.04045 else ((part + 0.055) / 1.055) ** 2.4
-    red, green, blue = map(linear, colour)
-    return 0.2126 * red + 0.7152 * green + 0.0722 * blue
-
-
-def contrast(one, other):
-    light, dark = sorted((luminance(one), luminance(other)), reverse=True)
-    return (light + 0.05) / (dark + 0.05)
-
-
-def colours(picture):
-    return [tuple(picture.rgb[start:start + 3]) for start in range(0, len(picture.rgb), 3)]
+from legible import background, contrast, contrast_of_digits
 
 
 class TheTimeInTheBar(unittest.TestCase):
@@ -38,15 +21,12 @@ class TheTimeInTheBar(unittest.TestCase):
         return max(set(solid), key=solid.count)
 
     def look(self):
-        """The pixels of the item on the screen, and the colour of the bar among them."""
-        seen = colours(self.desktop.picture().crop(*self.desktop.item_rectangle))
-        return seen, tuple(statistics.median(colour[channel] for colour in seen) for channel in range(3))
+        return self.desktop.picture().crop(*self.desktop.item_rectangle)
 
     def contrasts(self):
         """Of the digits as exported, and as they are seen on the screen, both against the bar on the screen."""
-        seen, bar = self.look()
-        strokes = sorted((contrast(colour, bar) for colour in seen), reverse=True)
-        return contrast(self.ink(), bar), strokes[len(seen) // 40]
+        seen = self.look()
+        return contrast(self.ink(), background(seen)), contrast_of_digits(seen)
 
     def wait_until_legible(self, what):
         self.desktop.move(600, 400)
@@ -71,9 +51,9 @@ class TheTimeInTheBar(unittest.TestCase):
         self.wait_until_legible("an XFCE bar while it is dark")
 
         for dark, what in (("false", "light"), ("true", "dark")):
-            _, earlier = self.look()
+            earlier = background(self.look())
             self.desktop.ask("xfconf-query", "-c", "xfce4-panel", "-p", "/panels/dark-mode", "-s", dark)
-            wait_for(lambda: contrast(self.look()[1], earlier) > 4.5, what=f"an XFCE bar that becomes {what}")
+            wait_for(lambda: contrast(background(self.look()), earlier) > 4.5, what=f"an XFCE bar that becomes {what}")
             self.wait_until_legible(f"an XFCE bar that became {what}")
 
     def test_on_light_and_dark_mate(self):
