@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""GNOME Shell on Wayland, without an extension, as Debian installs it."""
+"""GNOME Shell on Wayland, without an extension, as Debian installs it, and with AppIndicator."""
 from desktop import Desktop
 from shell import Shell
 
@@ -12,17 +12,20 @@ if (!global._pointer) {
 }
 const now = () => GLib.get_monotonic_time();
 """
-_KEYS = {"Escape": 0xff1b, "Return": 0xff0d, "Tab": 0xff09, "Up": 0xff52}
+_KEYS = {"Escape": 0xff1b, "Return": 0xff0d, "Tab": 0xff09, "Up": 0xff52, "Down": 0xff54}
 
 
 class Gnome(Shell, Desktop):
     BUS_NAME = "org.gnome.Shell"
-    PACKAGES = ["gnome-shell"]
+    ROOT = "gnome"
+    PACKAGES = ["gnome-shell", "gnome-shell-extension-appindicator"]
+    EXTENSIONS = []
     HAS_STRIP = True
     START = """
 export XDG_CURRENT_DESKTOP=GNOME XDG_SESSION_TYPE=wayland XDG_SESSION_DESKTOP=gnome
 gsettings set org.gnome.shell welcome-dialog-last-shown-version 99
 gsettings set org.gnome.desktop.session idle-delay 0
+gsettings set org.gnome.shell enabled-extensions "%s"
 gnome-shell --headless --wayland --virtual-monitor 1280x800 --unsafe-mode &
 until ls $XDG_RUNTIME_DIR/.mutter-Xwaylandauth* && [ -S $XDG_RUNTIME_DIR/wayland-0 ]; do sleep 0.2; done >/dev/null 2>&1
 export WAYLAND_DISPLAY=wayland-0 DISPLAY=:0 XAUTHORITY=$(ls $XDG_RUNTIME_DIR/.mutter-Xwaylandauth*)
@@ -32,6 +35,10 @@ do sleep 0.2; done >/dev/null 2>&1
 env | grep -E '^(HOME|XDG_|DBUS|PATH|LANG|USER|LOGNAME|WAYLAND_|DISPLAY|XAUTHORITY)' > $XDG_RUNTIME_DIR/session
 wait
 """
+
+    def __init__(self, *arguments):
+        self.START = self.START % self.EXTENSIONS
+        super().__init__(*arguments)
 
     def prepare(self):
         self.evaluate("imports.ui.main.overview.hide()")
@@ -72,3 +79,19 @@ wait
         x, y, width, height = next(window.rectangle for window in self.windows()
                                    if window.title == "velto" and window.rectangle[3] < 60)
         return x + width // 2, y + height // 2
+
+
+class GnomeAppIndicator(Gnome):
+    EXTENSIONS = ["ubuntu-appindicators@ubuntu.com"]
+    HAS_STRIP = False
+    TOGGLING_BUTTON = 2
+
+    def item_place(self):
+        x, y, width, height = self.evaluate("""
+            (() => {
+                const area = imports.ui.main.panel.statusArea;
+                const item = area[Object.keys(area).find(name => name.startsWith("appindicator-"))];
+                const [x, y] = item.get_transformed_position();
+                return [x, y, item.width, item.height];
+            })()""")
+        return round(x + width / 2), round(y + height / 2)

@@ -92,6 +92,16 @@ class Stories(Story):
         desktop.save_picture("menu")
         desktop.key("Escape")
 
+    def test_a_left_click_that_opens_the_menu_leads_to_the_card(self):
+        if desktop.TOGGLING_BUTTON == 1:
+            self.skipTest("a left click shows the card")
+        self.hide()
+        self.click_item(1)
+        time.sleep(1)
+        desktop.key("Down")
+        desktop.key("Return")
+        wait_for(lambda: desktop.card, what="the card")
+
     def test_the_menu_of_the_strip_goes_by_escape_and_by_a_press_elsewhere(self):
         if not desktop.HAS_STRIP:
             self.skipTest("the desktop's own menu")
