@@ -33,17 +33,12 @@ class Cost(unittest.TestCase):
                                   "RegisteredStatusNotifierItems")
         return listed.count("/StatusNotifierItem")
 
-    def start_velto(self):
-        velto = self.desktop.start_velto({})
-        wait_for(lambda: velto.card_is_visible, what="the card, shown at launch")
-        return velto
-
     def hide_card(self, velto):
         self.desktop.click(20, self.desktop.size[1] - 20)
         wait_for(lambda: not velto.card_is_visible, what="the hidden card")
 
     def test_nothing_happens_while_nothing_counts(self):
-        velto = self.start_velto()
+        velto = self.desktop.start_velto({})
         wait_until_quiet(velto.pid)
         self.assertEqual(cost_a_second([[velto.pid]], 5)[0][1], 0, "with the card on show")
 
@@ -52,7 +47,7 @@ class Cost(unittest.TestCase):
         self.assertEqual(cost_a_second([[velto.pid]], 5)[0][1], 0, "with the card hidden")
 
     def test_counting_costs_little_more_than_the_least_program(self):
-        velto = self.start_velto()
+        velto = self.desktop.start_velto({})
         velto.press("Start")
         self.hide_card(velto)
         floor = self.start_floor()
@@ -70,7 +65,7 @@ class Cost(unittest.TestCase):
         self.assertLess(memory([velto.pid])[0], 2 * memory([floor.pid])[0])
 
     def test_a_window_gives_its_memory_back(self):
-        velto = self.start_velto()
+        velto = self.desktop.start_velto({})
 
         def after_the_form():
             velto.item.choose("Settings…")

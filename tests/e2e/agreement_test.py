@@ -8,7 +8,6 @@ class TheBarAndTheCard(unittest.TestCase):
     def start(self, host):
         self.desktop = self.enterContext(VirtualDesktop(host=host))
         self.velto = self.desktop.start_velto({})
-        wait_for(lambda: self.velto.card_is_visible)
 
     def test_a_label_agrees_with_the_card_every_second(self):
         self.start("press")

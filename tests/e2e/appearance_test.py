@@ -11,7 +11,6 @@ class Appearance(unittest.TestCase):
     def start(self, dark):
         self.desktop = self.enterContext(VirtualDesktop(dark=dark))
         self.velto = self.desktop.start_velto({})
-        wait_for(lambda: self.velto.card_is_visible)
 
     def is_light(self):
         x, y, _, height = self.velto.card.rectangle

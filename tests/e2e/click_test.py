@@ -15,7 +15,6 @@ class ClickStories:
     def setUp(self):
         self.velto = self.desktop.start_velto({})
         self.addCleanup(self.velto.kill)
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
 
     def hide(self):
         self.desktop.click_item()

@@ -14,7 +14,6 @@ class Counting(unittest.TestCase):
     def setUp(self):
         self.velto = desktop.start_velto({})
         self.addCleanup(self.velto.kill)
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
 
     def test_the_card_is_at_rest_at_launch(self):
         self.assertEqual(self.velto.time, "25:00")

@@ -21,7 +21,6 @@ class PanelBars(unittest.TestCase):
     def start(self, host):
         self.desktop = self.enterContext(VirtualDesktop(host=host))
         self.velto = self.desktop.start_velto({})
-        wait_for(lambda: self.velto.card_is_visible)
 
     def strip(self):
         """The strip's time. LookupError without a strip."""

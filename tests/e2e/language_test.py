@@ -44,7 +44,6 @@ class InALanguageThatNobodySpeaks(unittest.TestCase):
     def start(self, settings, **desktop):
         self.desktop = self.enterContext(VirtualDesktop(**desktop))
         self.velto = self.desktop.start_velto(settings, {"LANGUAGE": "eo"})
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
 
     def window(self, button_or_title):
         def find():
@@ -113,7 +112,6 @@ class FromRightToLeft(unittest.TestCase):
     def setUp(self):
         self.desktop = self.enterContext(VirtualDesktop())
         self.velto = self.desktop.start_velto({}, {"LANGUAGE": "ar"})
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
 
     def test_the_first_button_is_on_the_right(self):
         self.velto.press("ابدأ")
@@ -130,7 +128,6 @@ class TheMenuFromRightToLeft(unittest.TestCase):
     def test_it_ends_where_the_strip_does(self):
         with VirtualDesktop(host="none") as desktop:
             velto = desktop.start_velto({}, {"LANGUAGE": "ar"})
-            wait_for(lambda: velto.card_is_visible, what="the card, shown at launch")
             x, _, width, _ = wait_for(lambda: velto.strip, what="the strip").rectangle
 
             desktop.click(*velto.strip.middle, 3)

@@ -14,7 +14,6 @@ class TheMenu(unittest.TestCase):
     def setUp(self):
         self.velto = desktop.start_velto({})
         self.addCleanup(self.velto.kill)
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
 
     def checked(self, *path):
         return [entry.label for entry in self.velto.item.menu().find(*path).children if entry.checked]

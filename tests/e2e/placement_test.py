@@ -15,7 +15,6 @@ class Placement(unittest.TestCase):
         """The item's and the card's rectangle once a click has shown the card."""
         self.desktop = self.enterContext(VirtualDesktop(**options))
         velto = self.desktop.start_velto({})
-        wait_for(lambda: velto.card_is_visible, what="the card, shown at launch")
         self.desktop.click_item()
         wait_for(lambda: not velto.card_is_visible)
         self.desktop.click_item()

@@ -19,7 +19,6 @@ class TheProcess(unittest.TestCase):
     def start(self, settings=None):
         velto = desktop.start_velto(settings)
         self.addCleanup(lambda: velto.process.poll() is not None or velto.kill())
-        wait_for(lambda: velto.card_is_visible, what="the card, shown at launch")
         return velto
 
     def test_a_second_launch_shows_the_first_ones_card_and_succeeds(self):
@@ -30,7 +29,7 @@ class TheProcess(unittest.TestCase):
 
         other = desktop.open_window("other")
 
-        second = desktop.start_velto(ready=False)
+        second = desktop.launch()
 
         self.assertEqual(second.wait(), 0)
         wait_for(lambda: velto.card_is_visible, what="the card of the first")
@@ -45,7 +44,7 @@ class TheProcess(unittest.TestCase):
     def test_a_second_launch_keeps_a_visible_card(self):
         velto = self.start({})
 
-        self.assertEqual(desktop.start_velto(ready=False).wait(), 0)
+        self.assertEqual(desktop.launch().wait(), 0)
 
         holds(lambda: velto.card_is_visible, 1)
 

@@ -364,21 +364,25 @@ class VirtualDesktop:
         return subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                               stderr=subprocess.STDOUT, timeout=60, check=True).stdout.decode()
 
-    def start_velto(self, defaults=None, environment=None, ready=True):
+    def launch(self, defaults=None, environment=None):
         """Starts the program: VELTO_BIN, else the release build. `defaults` becomes its settings file (None:
-        the one there is stays), without the first-launch welcome unless it sets hasLaunchedBefore itself.
-        Returns when its status item is exported, at once when not `ready`."""
+        the one there is stays), without the first-launch welcome unless it sets hasLaunchedBefore itself."""
         if defaults is not None:
             os.makedirs(os.path.dirname(self.settings_file), 0o700, exist_ok=True)
             with open(self.settings_file, "wb") as file:
                 plistlib.dump({"hasLaunchedBefore": True} | defaults, file)
-        velto = Velto(self, self.run(self.program, output=subprocess.PIPE, environment=environment))
-        if ready:
-            def exported():
-                if velto.process.poll() is not None:
-                    raise AssertionError(f"velto ended with {velto.process.returncode}: {self.log('velto')}")
-                return velto.item
-            wait_for(exported, what="the status item")
+        return Velto(self, self.run(self.program, output=subprocess.PIPE, environment=environment))
+
+    def start_velto(self, defaults=None, environment=None):
+        """Launches the program, and returns when its card is on the screen."""
+        velto = self.launch(defaults, environment)
+
+        def is_shown():
+            if velto.process.poll() is not None:
+                raise AssertionError(f"velto ended with {velto.process.returncode}: {self.log('velto')}")
+            return velto.item and velto.card_is_visible
+
+        wait_for(is_shown, what="the card, shown at launch")
         return velto
 
     def change_setting(self, namespace, key, value):

@@ -62,8 +62,8 @@ class Run:
     def __init__(self, url):
         self._heard_before = len(recording.samples())
         self._mark = f"VELTO_RUN={time.monotonic()}"
-        self.velto = desktop.start_velto(settings_for(url), ENVIRONMENT | dict([self._mark.split("=")]))
-        self._name = self.velto.item.bus_name
+        self.velto = desktop.launch(settings_for(url), ENVIRONMENT | dict([self._mark.split("=")]))
+        self._name = wait_for(lambda: self.velto.item, what="the status item").bus_name
         self._window = wait_for(lambda: XWindow(desktop, self.velto.pid), what="the card, shown at launch")
         self.velto.item.choose("Start Focus")
 

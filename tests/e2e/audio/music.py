@@ -19,7 +19,6 @@ class MusicStory(unittest.TestCase):
     def start_velto(self, path, port="plain", **settings):
         self.url = self.streams.url(path, port)
         self.velto = self.desktop.start_velto(settings_for(self.url, **settings), ENVIRONMENT)
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
 
     def wait_for_tone(self):
         wait_for(lambda: self.recording.has_tone, what="the tone")

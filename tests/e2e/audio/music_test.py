@@ -94,7 +94,6 @@ class Music(MusicStory):
 
     def test_an_unusable_address_is_only_reported(self):
         self.velto = self.desktop.start_velto(settings_for("http://no address"), ENVIRONMENT)
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
 
         self.velto.press("Start")
         wait_for(lambda: self.velto.output, what="a line")

@@ -48,7 +48,6 @@ class Day(unittest.TestCase):
         self.velto = self.desktop.start_velto(
             {"focusMinutes": 1, "breakMinutes": 1, "autoTransition": True, "focusMusicPreset": b'"Custom URL"',
              "breakMusicPreset": b'"Custom URL"', "focusCustomURL": url, "breakCustomURL": url}, ENVIRONMENT | FAST | path)
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
         self.countdown.watch(lambda: [os.getpid(), self.velto.pid, self.desktop.x_server.pid,
                                       self.desktop.bus_daemon.pid])
         self.places = self.places_in_the_form()

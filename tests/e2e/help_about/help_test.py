@@ -111,7 +111,6 @@ class TheWelcome(Help):
 class HowToUse(Help):
     def setUp(self):
         self.velto = self.start({})
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
 
     def open(self):
         self.velto.item.choose("How to Use")
@@ -156,7 +155,6 @@ class OnALowScreen(Help):
     def opened(self, size):
         with VirtualDesktop(size=size) as low:
             velto = low.start_velto({})
-            wait_for(lambda: velto.card_is_visible, what="the card, shown at launch")
             velto.item.choose("How to Use")
             self.wait_for_windows(velto, 1)
             window = wait_for_focus(low, velto)

@@ -10,7 +10,6 @@ class ABarThatShowsLabels(unittest.TestCase):
     def setUp(self):
         self.desktop = self.enterContext(VirtualDesktop(host="press"))
         self.velto = self.desktop.start_velto({})
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
         self.velto.press("Start")
         self.desktop.click_item()
         wait_for(lambda: not self.velto.card_is_visible)

@@ -11,7 +11,6 @@ class TheTimeInTheBar(unittest.TestCase):
     def start(self, host, **desktop):
         self.desktop = self.enterContext(VirtualDesktop(host=host, **desktop))
         self.velto = self.desktop.start_velto({})
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
         wait_for(lambda: self.desktop.item_rectangle, what="the item in the bar")
 
     def ink(self):

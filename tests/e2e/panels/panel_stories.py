@@ -27,7 +27,6 @@ class PanelStories:
     def setUp(self):
         self.velto = self.desktop.start_velto({"breakMinutes": 10})
         self.addCleanup(self.velto.kill)
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
         wait_for(self.is_in_the_bar, what="the item in the bar")
 
     def is_in_the_bar(self):

@@ -13,7 +13,6 @@ class TheStrip(unittest.TestCase):
     def setUp(self):
         self.desktop = self.enterContext(VirtualDesktop(host="none"))
         self.velto = self.desktop.start_velto({"breakMinutes": 10})
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
         wait_for(lambda: self.velto.strip, what="the strip")
 
     def click(self, button=1, modifiers=()):
@@ -65,7 +64,6 @@ class TheStrip(unittest.TestCase):
         wait_for(corner_is_the_desktop)
         with VirtualDesktop(host="none", compositing=True) as self.desktop:
             self.velto = self.desktop.start_velto({})
-            wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
             wait_for(corner_is_the_desktop)
 
     def test_a_left_or_middle_click_toggles_the_card(self):

@@ -12,7 +12,6 @@ class KeysAlone(unittest.TestCase):
     def setUp(self):
         self.desktop = self.enterContext(VirtualDesktop(wm="openbox"))
         self.velto = self.desktop.start_velto({})
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
         self.other = self.desktop.open_window("other")
 
     def key_for_velto(self):

@@ -18,7 +18,6 @@ class Preview(unittest.TestCase):
         SoundServer(self.desktop)
         self.recording = Recording(self.desktop)
         velto = self.desktop.start_velto({}, ENVIRONMENT)
-        wait_for(lambda: velto.card_is_visible, what="the card, shown at launch")
         velto.item.choose("Settings…")
         self.sheet = Sheet(velto)
 

@@ -22,7 +22,6 @@ class SettingsForm(unittest.TestCase):
     def start(self, settings=None):
         self.velto = desktop.start_velto(settings or {})
         self.addCleanup(self.velto.kill)
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
 
     def open(self):
         self.velto.item.choose("Settings…")
@@ -236,7 +235,6 @@ class SettingsForm(unittest.TestCase):
     def test_card_and_form_stay_on_a_screen_that_gets_smaller(self):
         with VirtualDesktop() as shrinking:
             velto = shrinking.start_velto({})
-            wait_for(lambda: velto.card_is_visible)
             shrinking.click_item()
             wait_for(lambda: not velto.card_is_visible)
             shrinking.click_item()
@@ -257,7 +255,6 @@ class SettingsForm(unittest.TestCase):
     def test_it_fits_a_low_screen_and_is_whole(self):
         with VirtualDesktop(size=(1024, 600)) as low:
             velto = low.start_velto({})
-            wait_for(lambda: velto.card_is_visible)
             velto.item.choose("Settings…")
             sheet = Sheet(velto)
             x, y, width, height = sheet.window.rectangle

@@ -17,7 +17,6 @@ class Volume(unittest.TestCase):
         self.recording = Recording(self.desktop)
         settings = settings_for(streams.url("tone.mp3"), musicVolume=0.25)
         self.velto = self.desktop.start_velto(settings, ENVIRONMENT)
-        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
 
     def wait_for_volume(self, volume):
         wait_for(lambda: self.recording.has_tone_at(volume), what=f"the tone at {volume}")
