@@ -27,11 +27,7 @@ class Cost(unittest.TestCase):
 
     @property
     def icons(self):
-        listed = self.desktop.ask("gdbus", "call", "--session", "--dest", "org.kde.StatusNotifierWatcher",
-                                  "--object-path", "/StatusNotifierWatcher", "--method",
-                                  "org.freedesktop.DBus.Properties.Get", "org.kde.StatusNotifierWatcher",
-                                  "RegisteredStatusNotifierItems")
-        return listed.count("/StatusNotifierItem")
+        return len(self.desktop.registered_items)
 
     def hide_card(self, velto):
         self.desktop.click(20, self.desktop.size[1] - 20)

@@ -3,18 +3,7 @@
 import time
 import unittest
 
-from gi.repository import Gio, GLib
-
 from desktop import VirtualDesktop, holds, wait_for
-
-
-def registered(desktop):
-    """The items that the bar has taken in."""
-    return desktop.bus.call_sync("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher",
-                                 "org.freedesktop.DBus.Properties", "Get",
-                                 GLib.Variant("(ss)", ("org.kde.StatusNotifierWatcher",
-                                                       "RegisteredStatusNotifierItems")),
-                                 None, Gio.DBusCallFlags.NONE, 10000, None).unpack()[0]
 
 
 class PanelBars(unittest.TestCase):
@@ -37,7 +26,7 @@ class PanelBars(unittest.TestCase):
         for host in ("xfce", "press"):
             with self.subTest(host=host), VirtualDesktop(host=host) as self.desktop:
                 self.velto = self.desktop.start_velto({})
-                wait_for(lambda: registered(self.desktop))
+                wait_for(lambda: self.desktop.registered_items)
                 self.velto.press("Start")
                 wait_for(lambda: self.velto.time <= "24:58")
 
@@ -45,7 +34,7 @@ class PanelBars(unittest.TestCase):
                 self.desktop.start_host()
                 back = time.monotonic()
 
-                wait_for(lambda: registered(self.desktop), what="the item in the new bar")
+                wait_for(lambda: self.desktop.registered_items, what="the item in the new bar")
                 self.assertLess(time.monotonic() - back, 2)
                 wait_for(lambda: self.desktop.item_rectangle)
                 if host == "press":

@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 """The accessibility tree of a desktop, read over its bus each time: nothing is cached."""
-from gi.repository import Gio, GLib
+from gi.repository import GLib
+
+from calls import call, call_daemon, read_property
 
 _ACCESSIBLE = "org.a11y.atspi.Accessible"
 _ROOT = "/org/a11y/atspi/accessible/root"
@@ -25,12 +27,11 @@ class Accessible:
         except GLib.Error:
             return "<gone>"
 
-    def _call(self, interface, method, arguments=None):
-        return self._bus.call_sync(self._name, self._path, interface, method, arguments, None,
-                                   Gio.DBusCallFlags.NONE, 10000, None).unpack()
+    def _call(self, interface, method, signature="()", *arguments):
+        return call(self._bus, self._name, self._path, interface, method, signature, *arguments)
 
     def _get(self, interface, prop):
-        return self._call("org.freedesktop.DBus.Properties", "Get", GLib.Variant("(ss)", (interface, prop)))[0]
+        return read_property(self._bus, self._name, self._path, interface, prop)
 
     @property
     def name(self):
@@ -60,11 +61,11 @@ class Accessible:
 
     @property
     def text(self):
-        return self._call("org.a11y.atspi.Text", "GetText", GLib.Variant("(ii)", (0, -1)))[0]
+        return self._call("org.a11y.atspi.Text", "GetText", "(ii)", 0, -1)[0]
 
     @text.setter
     def text(self, value):
-        self._call("org.a11y.atspi.EditableText", "SetTextContents", GLib.Variant("(s)", (value,)))
+        self._call("org.a11y.atspi.EditableText", "SetTextContents", "(s)", value)
 
     @property
     def value(self):
@@ -72,13 +73,13 @@ class Accessible:
 
     @value.setter
     def value(self, value):
-        self._call("org.freedesktop.DBus.Properties", "Set", GLib.Variant(
-            "(ssv)", ("org.a11y.atspi.Value", "CurrentValue", GLib.Variant("d", value))))
+        self._call("org.freedesktop.DBus.Properties", "Set", "(ssv)", "org.a11y.atspi.Value", "CurrentValue",
+                   GLib.Variant("d", value))
 
     @property
     def rectangle(self):
         """(x, y, width, height) on the screen, in pixels, from the top left."""
-        extents = self._call("org.a11y.atspi.Component", "GetExtents", GLib.Variant("(u)", (0,)))[0]
+        extents = self._call("org.a11y.atspi.Component", "GetExtents", "(u)", 0)[0]
         return tuple(round(self._scale * length) for length in extents)
 
     @property
@@ -92,7 +93,7 @@ class Accessible:
 
     def press(self):
         """The first action: presses a button, toggles a switch."""
-        self._call("org.a11y.atspi.Action", "DoAction", GLib.Variant("(i)", (0,)))
+        self._call("org.a11y.atspi.Action", "DoAction", "(i)", 0)
 
     def grab_focus(self):
         self._call("org.a11y.atspi.Component", "GrabFocus")
@@ -138,6 +139,4 @@ def applications(bus, scale=1):
 
 
 def process_of(bus, accessible):
-    return bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
-                         "GetConnectionUnixProcessID", GLib.Variant("(s)", (accessible._name,)), None,
-                         Gio.DBusCallFlags.NONE, 10000, None).unpack()[0]
+    return call_daemon(bus, "GetConnectionUnixProcessID", accessible._name)

@@ -24,6 +24,7 @@ from gi.repository import Gio, GLib
 
 import accessibility
 import framebuffer
+from calls import call, call_daemon, read_property
 from hosts import HOSTS
 from machine import Hindrance
 from status_item import StatusItem
@@ -285,9 +286,8 @@ class VirtualDesktop:
             "type='signal',interface='org.kde.StatusNotifierItem',member='XAyatanaNewLabel'",
             output=self.path("overheard"))
         self.run(next(path for path in _ATSPI if os.path.exists(path)), "--launch-immediately")
-        self._accessibility = wait_for(lambda: self.connect(self.bus.call_sync(
-            "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, Gio.DBusCallFlags.NONE, 10000,
-            None).unpack()[0]), what="an accessibility bus")
+        self._accessibility = wait_for(lambda: self.connect(call(
+            self.bus, "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress")[0]), what="an accessibility bus")
         self.run("/usr/bin/python3", os.path.join(_HERE, "portal.py"), "1" if self.dark else "2")
         wait_for(lambda: self._has_owner("org.freedesktop.portal.Desktop"), what="the settings portal")
 
@@ -313,6 +313,12 @@ class VirtualDesktop:
         wait_for(lambda: not self._has_owner("org.kde.StatusNotifierWatcher"), what="the host's end")
 
     @property
+    def registered_items(self):
+        """The items that the panel bar has taken in."""
+        return read_property(self.bus, "org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher",
+                             "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems")
+
+    @property
     def item_rectangle(self):
         """Where the program's item stands in the panel bar; LookupError while it is not there."""
         return self._host_in_use.item_rectangle(self)
@@ -323,9 +329,7 @@ class VirtualDesktop:
         return self._host_in_use.menu_rectangle(self)
 
     def _has_owner(self, name):
-        return self.bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
-                                  "NameHasOwner", GLib.Variant("(s)", (name,)), None, Gio.DBusCallFlags.NONE, 10000,
-                                  None).unpack()[0]
+        return call_daemon(self.bus, "NameHasOwner", name)
 
     # Programs
 
@@ -388,9 +392,8 @@ class VirtualDesktop:
     def change_setting(self, namespace, key, value):
         """Turns a setting of the desktop: ("org.freedesktop.appearance", "color-scheme", GLib.Variant("u", 1))
         makes it dark."""
-        self.bus.call_sync("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop", "org.velto.Test",
-                           "Change", GLib.Variant("(ssv)", (namespace, key, value)), None, Gio.DBusCallFlags.NONE,
-                           10000, None)
+        call(self.bus, "org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop", "org.velto.Test", "Change",
+             "(ssv)", namespace, key, value)
 
     def open_window(self, title):
         """Opens another program's window with a text field, and returns the field once it has the focus."""

@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 """A program's status item and its menu, as a panel host sees them."""
-from gi.repository import Gio, GLib
+from gi.repository import GLib
+
+from calls import call, call_daemon, read_property
 
 ITEM = "org.kde.StatusNotifierItem"
 MENU = "com.canonical.dbusmenu"
@@ -55,9 +57,8 @@ class StatusItem:
         self._name = self._find(pid)
 
     def _find(self, pid):
-        for name in self._daemon("ListNames", None)[0]:
-            if not name.startswith(":") or self._daemon("GetConnectionUnixProcessID",
-                                                        GLib.Variant("(s)", (name,)))[0] != pid:
+        for name in call_daemon(self._bus, "ListNames"):
+            if not name.startswith(":") or call_daemon(self._bus, "GetConnectionUnixProcessID", name) != pid:
                 continue
             try:
                 self._get(name, "Id")
@@ -66,18 +67,11 @@ class StatusItem:
                 pass
         raise LookupError(f"process {pid} has no status item")
 
-    def _daemon(self, method, arguments):
-        return self._bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", method,
-                                   arguments, None, Gio.DBusCallFlags.NONE, 10000, None).unpack()
-
-    def _call(self, path, interface, method, arguments):
-        return self._bus.call_sync(self._name, path, interface, method, arguments, None, Gio.DBusCallFlags.NONE,
-                                   10000, None).unpack()
+    def _call(self, path, interface, method, signature, *arguments):
+        return call(self._bus, self._name, path, interface, method, signature, *arguments)
 
     def _get(self, name, prop):
-        return self._bus.call_sync(name, "/StatusNotifierItem", "org.freedesktop.DBus.Properties", "Get",
-                                   GLib.Variant("(ss)", (ITEM, prop)), None, Gio.DBusCallFlags.NONE, 2000,
-                                   None).unpack()[0]
+        return read_property(self._bus, name, "/StatusNotifierItem", ITEM, prop, timeout=2000)
 
     def __getitem__(self, prop):
         """A property, such as "XAyatanaLabel"."""
@@ -97,22 +91,21 @@ class StatusItem:
         return [(width, height, bytes(data)) for width, height, data in self["IconPixmap"]]
 
     def activate(self, x=0, y=0):
-        self._call("/StatusNotifierItem", ITEM, "Activate", GLib.Variant("(ii)", (x, y)))
+        self._call("/StatusNotifierItem", ITEM, "Activate", "(ii)", x, y)
 
     def secondary_activate(self, x=0, y=0):
-        self._call("/StatusNotifierItem", ITEM, "SecondaryActivate", GLib.Variant("(ii)", (x, y)))
+        self._call("/StatusNotifierItem", ITEM, "SecondaryActivate", "(ii)", x, y)
 
     def context_menu(self, x=0, y=0):
-        self._call("/StatusNotifierItem", ITEM, "ContextMenu", GLib.Variant("(ii)", (x, y)))
+        self._call("/StatusNotifierItem", ITEM, "ContextMenu", "(ii)", x, y)
 
     def menu(self):
         """The whole menu, read anew, as a host does before it shows it."""
         path = self["Menu"]
-        self._call(path, MENU, "AboutToShow", GLib.Variant("(i)", (0,)))
-        return MenuEntry(self._call(path, MENU, "GetLayout", GLib.Variant("(iias)", (0, -1, [])))[1])
+        self._call(path, MENU, "AboutToShow", "(i)", 0)
+        return MenuEntry(self._call(path, MENU, "GetLayout", "(iias)", 0, -1, [])[1])
 
     def choose(self, *labels):
         """Chooses the menu entry at the end of the path of `labels`."""
         entry = self.menu().find(*labels)
-        self._call(self["Menu"], MENU, "Event",
-                   GLib.Variant("(isvu)", (entry.id, "clicked", GLib.Variant("i", 0), 0)))
+        self._call(self["Menu"], MENU, "Event", "(isvu)", entry.id, "clicked", GLib.Variant("i", 0), 0)

@@ -2,7 +2,9 @@
 """Listens to what a program says on the session bus."""
 import time
 
-from gi.repository import Gio, GLib
+from gi.repository import Gio
+
+from calls import call
 
 
 class Messages:
@@ -16,9 +18,8 @@ class Messages:
 
     def __enter__(self):
         self._monitor.add_filter(self._note)
-        self._monitor.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus.Monitoring",
-                                "BecomeMonitor", GLib.Variant("(asu)", ([], 0)), None, Gio.DBusCallFlags.NONE, 10000,
-                                None)
+        call(self._monitor, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus.Monitoring",
+             "BecomeMonitor", "(asu)", [], 0)
         return self
 
     def __exit__(self, *_):

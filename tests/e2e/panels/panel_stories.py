@@ -2,8 +2,6 @@
 """What a person does with the item in a panel bar; the same on every bar."""
 import time
 
-from gi.repository import Gio, GLib
-
 from desktop import VirtualDesktop, holds, wait_for
 from menus import MenuOnScreen
 from messages import Messages, messages_in
@@ -30,10 +28,7 @@ class PanelStories:
         wait_for(self.is_in_the_bar, what="the item in the bar")
 
     def is_in_the_bar(self):
-        taken_in = self.desktop.bus.call_sync(
-            "org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher", "org.freedesktop.DBus.Properties", "Get",
-            GLib.Variant("(ss)", ("org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems")), None,
-            Gio.DBusCallFlags.NONE, 10000, None).unpack()[0]
+        taken_in = self.desktop.registered_items
         return len(taken_in) == 1 and self.velto.item.bus_name in taken_in[0] and self.desktop.item_rectangle
 
     def click_item(self, button=1, modifiers=()):
