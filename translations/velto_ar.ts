@@ -131,7 +131,7 @@
     </message>
     <message>
         <source>Hacker/cyberpunk vibes</source>
-        <translation>أجواء القراصنة والسايبربنك</translation>
+        <translation>أجواء الهاكرز والسايبربنك</translation>
     </message>
     <message>
         <source>Beatless ambient</source>

@@ -168,7 +168,7 @@
     </message>
     <message>
         <source>Support</source>
-        <translation>Hilfe</translation>
+        <translation>Support</translation>
     </message>
     <message>
         <source>Website</source>
@@ -176,7 +176,7 @@
     </message>
     <message>
         <source>Buy Me a Coffee</source>
-        <translation>Spendieren Sie einen Kaffee</translation>
+        <translation>Einen Kaffee spendieren</translation>
     </message>
     <message>
         <source>%1 - Focus Timer</source>
@@ -281,7 +281,7 @@
     </message>
     <message>
         <source>Pro Tips</source>
-        <translation>Tipps für Profis</translation>
+        <translation>Profi-Tipps</translation>
     </message>
     <message>
         <source>• Default: 25 min focus, 5 min break (Pomodoro Technique)

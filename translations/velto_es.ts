@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Settings…</source>
-        <translation>Preferencias…</translation>
+        <translation>Configuración…</translation>
     </message>
     <message>
         <source>How to Use</source>
@@ -241,7 +241,7 @@
 • Right click the icon to open the settings</source>
         <translation>velto está en la barra de menús, en la parte superior de la pantalla:
 • Pulse el icono con el botón izquierdo para ver el temporizador
-• Pulse el icono con el botón derecho para abrir las preferencias</translation>
+• Pulse el icono con el botón derecho para abrir la configuración</translation>
     </message>
     <message>
         <source>Timer Controls</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Enable background music to enhance concentration. Choose from Lo-Fi, Ambient, or other presets in Settings.</source>
-        <translation>Active la música de fondo para concentrarse mejor. Elija Lo-Fi, Ambient u otra emisora en las preferencias.</translation>
+        <translation>Active la música de fondo para concentrarse mejor. Elija Lo-Fi, Ambient u otra emisora en la configuración.</translation>
     </message>
     <message>
         <source>Pro Tips</source>
@@ -289,8 +289,8 @@
 • Settings changes won&apos;t interrupt active sessions
 • Access this help anytime from the menu</source>
         <translation>• De forma predeterminada: 25 min de concentración y 5 min de descanso (técnica Pomodoro)
-• El volumen de la música se ajusta en las preferencias
-• Los cambios en las preferencias no interrumpen la sesión en curso
+• El volumen de la música se ajusta en la configuración
+• Los cambios en la configuración no interrumpen la sesión en curso
 • Puede consultar esta ayuda en cualquier momento desde el menú</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
     </message>
     <message>
         <source>Settings</source>
-        <translation>Preferencias</translation>
+        <translation>Configuración</translation>
     </message>
     <message>
         <source>Durations</source>

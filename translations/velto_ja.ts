@@ -134,7 +134,7 @@
     </message>
     <message>
         <source>Sensuous &amp; mellow</source>
-        <translation>官能的でまろやか</translation>
+        <translation>甘美でまろやか</translation>
     </message>
     <message>
         <source>Your own streaming URL</source>

@@ -169,7 +169,7 @@
     </message>
     <message>
         <source>Support</source>
-        <translation>Pomoc</translation>
+        <translation>Pomoc techniczna</translation>
     </message>
     <message>
         <source>Website</source>

@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>Countdown Tick</source>
-        <translation>Tique-taque da contagem</translation>
+        <translation>Tique-taque da contagem regressiva</translation>
     </message>
     <message>
         <source>Focus End</source>
