@@ -112,7 +112,7 @@ void Button::paintEvent(QPaintEvent*)
     if (showsFocus(*this)) {
         const auto inset = isOnTint ? 2 : 0;
         drawFocusRing(painter, QRectF(rect()).adjusted(inset, inset, -inset, -inset), radius - inset,
-            isOnTint ? content : color(ColorName::accent, *this));
+            isOnTint ? content : color(ColorName::teal, *this));
     }
 }
 

@@ -23,11 +23,11 @@ enum class ColorName {
     field,            ///< Behind text that can be edited.
     knob,             ///< The part of a switch or slider that moves.
     tintedLabel,      ///< Text on a face of green or orange.
-    teal,             ///< The ring of a focus phase and its title; the hue of the accent.
+    teal,             ///< The ring of a focus phase and its title, the mark of the focus; the hue of the accent.
     green,
     orange,
     red,
-    accent, ///< Links, focus and what is chosen; white text can stand on it.
+    accent, ///< Links and what is chosen; white text can stand on it.
     last = accent
 };
 

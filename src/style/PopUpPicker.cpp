@@ -75,7 +75,7 @@ void PopUpPicker::paintEvent(QPaintEvent*)
     drawArrows(painter, {isRightToLeft ? arrowsWidth / 2 : frame.right() - arrowsWidth / 2, frame.center().y()});
 
     if (showsFocus(*this))
-        drawFocusRing(painter, frame, cornerRadius, color(ColorName::accent, *this));
+        drawFocusRing(painter, frame, cornerRadius, color(ColorName::teal, *this));
 }
 
 void PopUpPicker::wheelEvent(QWheelEvent* event)

@@ -67,7 +67,7 @@ void TextField::paintEvent(QPaintEvent* event)
         drawBezel(
             painter, rect(), cornerRadius, color(ColorName::field, *this), color(ColorName::controlOutline, *this));
         if (hasFocus())
-            drawFocusRing(painter, rect(), cornerRadius, color(ColorName::accent, *this));
+            drawFocusRing(painter, rect(), cornerRadius, color(ColorName::teal, *this));
     }
     QLineEdit::paintEvent(event);
 }

@@ -16,6 +16,7 @@ namespace {
 
 constexpr QSize trackSize(38, 22);
 constexpr double knobInset = 2;
+constexpr double focusedKnobInset = 5; ///< Inside the mark of the focus.
 constexpr int gap = 10;
 constexpr int knobDuration = 180;
 
@@ -66,17 +67,19 @@ void ToggleSwitch::paintEvent(QPaintEvent*)
     painter.setBrush(mixed(color(ColorName::controlOutline, *this), color(ColorName::accent, *this), position));
     painter.drawRoundedRect(track, radius, radius);
 
-    const double diameter = track.height() - 2 * knobInset;
-    const double travel = track.width() - 2 * knobInset - diameter;
+    const auto knobColor = color(ColorName::knob, *this);
+    const bool isFocused = showsFocus(*this);
+    const double inset = isFocused ? focusedKnobInset : knobInset;
+    const double diameter = track.height() - 2 * inset;
+    const double travel = track.width() - 2 * inset - diameter;
     const double along = travel * (isRightToLeft ? 1 - position : position);
-    const QRectF knob(track.left() + knobInset + along, track.top() + knobInset, diameter, diameter);
-    painter.setBrush(color(ColorName::knob, *this));
-    painter.drawEllipse(knob);
+    painter.setBrush(knobColor);
+    painter.drawEllipse(QRectF(track.left() + inset + along, track.top() + inset, diameter, diameter));
 
-    if (showsFocus(*this)) {
-        painter.setPen(QPen(color(ColorName::label, *this), 2));
+    if (isFocused) {
+        painter.setPen(QPen(knobColor, 2));
         painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(track.adjusted(1, 1, -1, -1), radius - 1, radius - 1);
+        painter.drawRoundedRect(track.adjusted(2, 2, -2, -2), radius - 2, radius - 2);
     }
 }
 

@@ -58,7 +58,7 @@ TEST_P(ContrastTest, LargeTextTheRingAndFacesOfControlsStandOut)
 {
     expectAtLeast(3,
         {{teal, windowBackground}, {accent, windowBackground}, {controlOutline, windowBackground},
-            {controlOutline, field}, {accent, field}, {knob, controlOutline}, {knob, accent}});
+            {controlOutline, field}, {teal, control}, {teal, field}, {knob, controlOutline}, {knob, accent}});
 }
 
 TEST_P(ContrastTest, APaletteTellsItsTheme)

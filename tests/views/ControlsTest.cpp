@@ -7,6 +7,7 @@
 #include "style/TextField.h"
 #include "style/TextLabel.h"
 #include "style/ToggleSwitch.h"
+#include "views/Contrast.h"
 
 #include <gtest/gtest.h>
 
@@ -18,6 +19,8 @@
 #include <QStyle>
 #include <QTest>
 #include <QWheelEvent>
+
+#include <vector>
 
 namespace velto {
 
@@ -284,16 +287,49 @@ TEST_F(ControlsTest, EachSaysItsNameRoleAndState)
     EXPECT_EQ(accessible(field).role(), QAccessible::EditableText);
 }
 
-TEST_F(ControlsTest, TheFocusOfTheKeyboardIsVisible)
+/// The square points that differ at a contrast of 3 and more.
+double clearlyChanged(const QImage& before, const QImage& after)
 {
-    for (QWidget* widget : {static_cast<QWidget*>(button), static_cast<QWidget*>(toggle), static_cast<QWidget*>(slider),
-             static_cast<QWidget*>(picker), static_cast<QWidget*>(field)}) {
-        window.setFocus();
-        const auto without = widget->grab().toImage();
-        widget->setFocus(Qt::TabFocusReason);
-        window.setAttribute(Qt::WA_KeyboardFocusChange);
+    int changed = 0;
+    for (int y = 0; y < before.height(); ++y)
+        for (int x = 0; x < before.width(); ++x)
+            changed += contrast(before.pixelColor(x, y), after.pixelColor(x, y)) >= 3;
+    return changed / (before.devicePixelRatio() * before.devicePixelRatio());
+}
 
-        EXPECT_NE(widget->grab().toImage(), without) << widget->metaObject()->className();
+TEST_F(ControlsTest, TheFocusOfTheKeyboardStandsOutInEveryTheme)
+{
+    auto* isOn = new ToggleSwitch("Enable music during focus");
+    isOn->setChecked(true);
+    const std::vector<std::pair<const char*, QWidget*>> controls{
+        {"start", button},
+        {"pause", new Button(ButtonKind::prominent, "Pause", "pause.fill", ColorName::orange)},
+        {"apply", new Button(ButtonKind::prominent, "Apply")},
+        {"bordered button", new Button(ButtonKind::bordered, "Cancel")},
+        {"destructive button", new Button(ButtonKind::destructive, "Reset")},
+        {"play", new Button(ButtonKind::borderless, {}, "play.circle.fill")},
+        {"link", new Button(ButtonKind::link, "Website")},
+        {"switch that is off", toggle},
+        {"switch that is on", isOn},
+        {"slider", slider},
+        {"picker", picker},
+        {"field", field},
+    };
+    for (const auto& [name, control] : controls)
+        window.layout()->addWidget(control);
+    QApplication::processEvents();
+    for (const auto theme : {Theme::light, Theme::dark, Theme::lightHighContrast, Theme::darkHighContrast}) {
+        window.setPalette(paletteFor(theme));
+        for (const auto& [name, control] : controls) {
+            window.setFocus();
+            const auto without = window.grab(control->geometry()).toImage();
+            control->setFocus(Qt::TabFocusReason);
+            window.setAttribute(Qt::WA_KeyboardFocusChange);
+
+            // A ring of two points round the knob of the slider, the smallest, has some 90.
+            EXPECT_GE(clearlyChanged(without, window.grab(control->geometry()).toImage()), 60)
+                << name << " in theme " << static_cast<int>(theme);
+        }
     }
 }
 
