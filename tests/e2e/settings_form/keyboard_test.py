@@ -102,5 +102,55 @@ class KeysAlone(unittest.TestCase):
         self.assertEqual(sheet.number("Focus").text, "42")
 
 
+class KeysFromRightToLeft(unittest.TestCase):
+    """In Arabic the arrow keys go where they point."""
+
+    def setUp(self):
+        self.desktop = self.enterContext(VirtualDesktop(wm="openbox"))
+        self.velto = self.desktop.start_velto({}, {"LANGUAGE": "ar"})
+        wait_for(lambda: self.velto.card_is_visible, what="the card, shown at launch")
+        self.desktop.key("ctrl+alt+v")
+        wait_for(lambda: self.velto.card.find("push button", "ابدأ").has_state("focused"), what="the card's keyboard")
+
+    def test_tab_goes_left_on_the_card(self):
+        self.desktop.key("Return")
+        wait_for(lambda: self.velto.controls == ["أعِد الضبط", "أوقف مؤقتًا"], what="both buttons, from the left")
+
+        self.desktop.key("Tab")
+
+        wait_for(lambda: self.velto.card.find("push button", "أعِد الضبط").has_state("focused"), what="the left button")
+        self.desktop.key("Return")
+        wait_for(lambda: self.velto.controls == ["ابدأ"], what="the reset timer")
+
+    def test_left_opens_a_submenu(self):
+        self.desktop.key("shift+F10", *["Up"] * 6)  # past automatic transition, the last of the switches
+        self.desktop.key("Left", "Down", "Return")
+
+        wait_for(lambda: self.velto.card.find_all(name="الاستراحة"), what="the break")
+
+    def test_the_form_is_filled_in_and_applied(self):
+        self.desktop.key("shift+F10", "Up", "Up", "Up", "Up", "Return")
+        sheet = Sheet(self.velto, apply="طبّق")
+        field, slider = sheet.number("التركيز"), sheet.slider("التركيز")
+        wait_for(lambda: field.has_state("focused"), what="the keyboard in the first field")
+        self.desktop.type("40")
+        self.desktop.key("Tab")
+        wait_for(lambda: slider.has_state("focused"), what="the keyboard on the slider")
+
+        self.desktop.key("Left", "Left", "Right", "Left")
+        wait_for(lambda: slider.value == 42, what="more on the left")
+        self.desktop.key("Tab", "Tab", "Left", "Tab")
+        wait_for(lambda: sheet.slider("الاستراحة").value == 6, what="more on the left, too")
+        self.desktop.key("space", "Tab", "Tab")
+        play = sheet.button("شغّل دقّات العد التنازلي")
+        wait_for(lambda: play.has_state("focused"), what="the keyboard on the first sound's button")
+        self.assertLess(play.middle, sheet.picker("دقّات العد التنازلي").middle)
+        self.desktop.key("shift+Tab", "Return")
+
+        wait_for(lambda: not Sheet.is_open(self.velto, "طبّق"), what="the form's end")
+        expected = {"focusMinutes": 42, "breakMinutes": 6, "autoTransition": True}
+        wait_for(lambda: expected.items() <= self.velto.settings.items(), what="the settings file")
+
+
 if __name__ == "__main__":
     unittest.main()

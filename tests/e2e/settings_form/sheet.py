@@ -8,20 +8,20 @@ from waiting import wait_for
 class Sheet:
     """The form that `velto` shows; waits for it."""
 
-    def __init__(self, velto):
-        self.velto, self.desktop = velto, velto.desktop
+    def __init__(self, velto, apply="Apply"):
+        self.velto, self.desktop, self.apply = velto, velto.desktop, apply
         self.window = wait_for(self._find, what="the settings form")
 
     def _find(self):
         for window in self.velto.app.children:
-            if window.showing and window.find_all("push button", "Apply"):
+            if window.showing and window.find_all("push button", self.apply):
                 return window
         raise LookupError("no settings form")
 
     @staticmethod
-    def is_open(velto):
+    def is_open(velto, apply="Apply"):
         try:
-            return bool(velto.app.find_all("push button", "Apply"))
+            return bool(velto.app.find_all("push button", apply))
         except (LookupError, GLib.Error):
             return False
 
