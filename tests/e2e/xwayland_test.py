@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """In a session of Wayland presses beside the card cannot be seen. So the card takes the keyboard when it is asked for,
 and goes when it loses it."""
+import re
 import unittest
 
 from desktop import VirtualDesktop, holds, wait_for
@@ -158,6 +159,24 @@ class XWaylandWithoutAPanelBar(Story):
         self.desktop.key("Escape")
         wait_for(lambda: not self.menu_is_open(), what="no menu")
         holds(lambda: self.velto.card_is_visible, 1, "the card")
+
+    def test_the_menu_of_the_strip_stands_on_a_window_that_the_window_manager_knows(self):
+        x, y = wait_for(lambda: self.velto.strip, what="the strip").middle
+        for _ in "on the card", "on the window with the keyboard":
+            self.desktop.click(x, y, 3)
+            owner = wait_for(self.owner_of_menu, what="the menu")
+            wait_for(lambda: owner in self.desktop.ask("xprop", "-root", "_NET_CLIENT_LIST"), 5, f"{owner} as known")
+            self.desktop.key("Escape")
+            wait_for(lambda: not self.menu_is_open(), what="no menu")
+            self.desktop.key("Escape")
+            wait_for(lambda: self.hidden() and self.other.has_state("focused"), what="the keyboard back")
+
+    def owner_of_menu(self):
+        for window in re.findall(r"^ +(0x\w+)", self.desktop.ask("xwininfo", "-root", "-children"), re.MULTILINE):
+            # The window manager has put the other windows of the program into frames.
+            if owner := re.search(r"window id # (\w+)", self.desktop.ask("xprop", "-id", window, "WM_TRANSIENT_FOR")):
+                return owner[1]
+        raise LookupError("no menu on the screen")
 
 
 if __name__ == "__main__":

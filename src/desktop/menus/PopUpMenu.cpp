@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
 #include <chrono>
@@ -89,7 +90,9 @@ void PopUpMenu::show()
     m_shown = std::make_unique<CardMenu>(isCut);
     fill(*m_shown, *m_menu);
     connect(m_shown.get(), &QMenu::aboutToHide, this, &PopUpMenu::dismiss);
-    m_handlers.opened();
+    // Without one, Qt names a window that window managers do not know.
+    m_shown->winId();
+    m_shown->windowHandle()->setTransientParent(m_handlers.opened());
     m_shown->popup(placeMenu(m_shown->sizeHint(), m_anchor));
 }
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 class QAction;
+class QWindow;
 
 namespace velto {
 
@@ -26,7 +27,7 @@ class PopUpMenu : public QObject {
 
 public:
     struct Handlers {
-        std::function<void()> opened;
+        std::function<QWindow*()> opened; ///< Returns the window that has the keyboard meanwhile, if there is one.
         std::function<void()> closed;
     };
 

@@ -20,6 +20,7 @@
 #include <QCursor>
 #include <QEvent>
 #include <QScreen>
+#include <QWindow>
 
 #include <chrono>
 #include <cmath>
@@ -72,7 +73,7 @@ DesktopStatusItem::DesktopStatusItem(ClickGesture& gesture, Dispatcher dispatch,
     m_bus(bus),
     m_popUpMenu({[this] {
                      m_gesture.menuOpened();
-                     fetchKeyboardForMenu();
+                     return keyboardForMenu();
                  },
         [this] {
             m_gesture.menuClosed();
@@ -143,15 +144,19 @@ void DesktopStatusItem::popUpMenu()
 }
 
 /// In a session of Wayland a menu has no keyboard of its own, and is told of a press elsewhere only by the loss of it.
-void DesktopStatusItem::fetchKeyboardForMenu()
+QWindow* DesktopStatusItem::keyboardForMenu()
 {
-    if (x11::seesTheScreen() || !x11::connection() || QGuiApplication::focusWindow())
-        return;
+    auto* focused = QGuiApplication::focusWindow();
+    if (focused && !focused->isVisible())
+        focused = nullptr; // Hidden with the keyboard, which Qt may hear of late.
+    if (focused || x11::seesTheScreen() || !x11::connection())
+        return focused;
     m_menuKeyboard = std::make_unique<FloatingWindow>(
         std::make_unique<QWidget>(), [this] { m_popUpMenu.close(); }, Focus::taken);
     m_menuKeyboard->setGeometry(QRect(anchor().value_or(placeOfUse()).topLeft(), QSize(1, 1)));
     m_menuKeyboard->show();
     m_menuKeyboard->takeKeyboard();
+    return m_menuKeyboard->windowHandle();
 }
 
 bool DesktopStatusItem::eventFilter(QObject* watched, QEvent* event)

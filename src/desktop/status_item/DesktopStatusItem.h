@@ -60,7 +60,7 @@ private:
     [[nodiscard]] bool hasHost() const;
     void hostChanged();
     void showStrip();
-    void fetchKeyboardForMenu();
+    [[nodiscard]] QWindow* keyboardForMenu();
     void drawPicture();
     [[nodiscard]] QColor barColor() const;
     void clickedInBar(ClickEvent::Kind kind, QPoint claimed);
