@@ -30,6 +30,7 @@ class Desktop:
     PLACES_CARDS = True  # where velto wants them
     TOGGLING_BUTTON = 1  # what shows and hides the card, pressed on the time
     HAS_STRIP = False  # and no place for items
+    LEAST_CONTRAST = 4.5  # of the time in its bar
     THEMES = {"": None}  # by name: whether the bar is dark then, where that is known
 
     def __init__(self, folder, name):

@@ -64,7 +64,8 @@ class Stories(Story):
         def is_legible():
             nonlocal seen
             seen = desktop.look_at_item(what)
-            return is_dark in (None, luminance(background(seen)) < 0.18) and contrast_of_digits(seen) >= 4.5
+            is_as_meant = is_dark in (None, luminance(background(seen)) < 0.18)
+            return is_as_meant and contrast_of_digits(seen) >= desktop.LEAST_CONTRAST
         try:
             wait_for(is_legible, 25, what="digits that can be read")
         finally:
