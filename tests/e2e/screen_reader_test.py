@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 """A session of somebody who sees nothing: Orca speaks, keys answer."""
+import os
 import shutil
 import subprocess
 import time
@@ -79,6 +80,15 @@ class Spoken(unittest.TestCase):
         wait_for(lambda: self.velto.phase == "Break", timeout=30)
 
         self.reader.hear("Break")
+
+    def test_it_leaves_other_screen_readers_alone(self):
+        desktop = self.enterContext(VirtualDesktop(wm="openbox"))
+        os.symlink(shutil.which("sleep"), desktop.path("orca"))
+        other = desktop.run(desktop.path("orca"), "300")
+
+        ScreenReader(desktop)
+
+        self.assertIsNone(other.poll())
 
     def test_german_is_spoken(self):
         self.start({}, {"LANGUAGE": "de"})
