@@ -27,7 +27,6 @@ class Desktop:
     PACKAGES = []
     START = ""  # see Session
     USER = 0
-    PLACES_CARDS = True  # where velto wants them
     TOGGLING_BUTTON = 1  # what shows and hides the card, pressed on the time
     HAS_STRIP = False  # and no place for items
     LEAST_CONTRAST = 4.5  # of the time in its bar

@@ -77,7 +77,7 @@ class Stories(Story):
             self.show()
         left, _, width, _ = desktop.card.rectangle
         item, _ = desktop.item_place()
-        self.assertEqual(left <= item < left + width, desktop.PLACES_CARDS, f"card at {left}, item at {item}")
+        self.assertTrue(left <= item < left + width, f"card at {left}, item at {item}")
         desktop.save_picture("card")
 
     def test_a_press_elsewhere_hides_the_card(self):

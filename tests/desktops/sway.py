@@ -11,7 +11,6 @@ class Sway(WaylandDesktop):
     PROTOCOL = WaylandDesktop.FOLDER + "/sway_pointer.xml"
     PACKAGES = "sway waybar wtype grim gcc libc6-dev libwayland-dev libwayland-bin".split()
     USER = 1000
-    PLACES_CARDS = False
     LEAST_CONTRAST = 4.2  # white, as Waybar's own style has it on the blue of its tray
     START = """
 mkdir -p ~/.config/sway ~/.config/waybar

@@ -19,6 +19,8 @@ struct Known {
 constexpr StatusHostTraits gnome{TimeShape::label, true, true, true, true};
 constexpr StatusHostTraits indicators{TimeShape::label, false, false};
 constexpr StatusHostTraits wideOnDark{TimeShape::widePicture, true, false};
+constexpr StatusHostTraits waybar{TimeShape::widePicture, true, false, false, true};
+constexpr StatusHostTraits swaybar{TimeShape::squarePicture, true, false, false, true};
 constexpr StatusHostTraits square{TimeShape::squarePicture, false, false};
 constexpr StatusHostTraits plasma{TimeShape::squarePicture, false, false, true};
 constexpr StatusHostTraits squareOnDark{TimeShape::squarePicture, true, false};
@@ -29,10 +31,10 @@ constexpr std::array knownProcesses{
     Known{"indicator-application-service", indicators},
     Known{"budgie-panel", indicators},
     Known{"notification-area-applet", indicators}, // MATE's
-    Known{"waybar", wideOnDark},
+    Known{"waybar", waybar},
     Known{"cinnamon", wideOnDark},
     Known{"xapp-sn-watcher", wideOnDark}, // Cinnamon's
-    Known{"swaybar", squareOnDark},
+    Known{"swaybar", swaybar},
     Known{"wrapper-2.0", squareOnDark}, // XFCE's plug-ins run in it
     Known{"xfce4-panel", squareOnDark},
     Known{"lxqt-panel", squareOnDark},

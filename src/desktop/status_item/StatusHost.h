@@ -26,7 +26,7 @@ struct StatusHostTraits {
     bool barIsDark = false;          ///< By default, where it can't be seen; else it follows the colour scheme.
     bool leftClickOpensMenu = false; ///< A left click never reaches the item.
     bool tellsPlace = false;         ///< Clicks carry their place on the screen also where nobody else knows it.
-    bool isAtTopRight = false;       ///< Of the main screen, always.
+    bool isAtTopRight = false;       ///< Of the main screen, unless a person wants it elsewhere.
     bool operator==(const StatusHostTraits&) const = default;
 };
 

@@ -42,6 +42,7 @@ FloatingWindow::FloatingWindow(
     m_dismiss(std::move(dismiss)),
     m_shape(created(*this)),
     m_hints(*this),
+    m_sway(*this),
     m_keyboard(*this, focus, below() ? &below()->m_keyboard : nullptr, m_dismiss)
 {
     windowHandle()->installEventFilter(this);
@@ -49,6 +50,15 @@ FloatingWindow::FloatingWindow(
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(content.release());
+}
+
+void FloatingWindow::place(const QRect& area)
+{
+    if (below())
+        m_sway.standAt(area);
+    else
+        m_sway.hangFromTop(area);
+    setGeometry(area);
 }
 
 void FloatingWindow::orderFront()
@@ -91,8 +101,10 @@ void FloatingWindow::setVisible(bool visible)
     m_isWanted = visible;
     if (visible && below() && !below()->m_isOnScreen)
         return; // Window managers ignore a parent that is mapped later.
-    if (visible && !isVisible())
+    if (visible && !isVisible()) {
         m_hints.announce();
+        m_sway.insist();
+    }
     if (!visible) {
         m_isOnScreen = false;
         m_keyboard.leave();

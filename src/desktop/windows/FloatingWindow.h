@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/windows/SwayPlacement.h"
 #include "desktop/windows/WindowKeyboard.h"
 #include "desktop/windows/WindowManagerHints.h"
 #include "desktop/windows/WindowShape.h"
@@ -23,6 +24,7 @@ public:
     FloatingWindow(
         std::unique_ptr<QWidget> content, std::function<void()> dismiss, Focus focus, QWidget* parent = nullptr);
 
+    void place(const QRect& area);
     /// Does not take the keyboard.
     void orderFront();
     /// Fetches the keyboard for the content's first control, or for the one that had it last; with another
@@ -54,6 +56,7 @@ private:
     bool m_isOnScreen = false;
     WindowShape m_shape;
     WindowManagerHints m_hints;
+    SwayPlacement m_sway;
     WindowKeyboard m_keyboard;
 };
 

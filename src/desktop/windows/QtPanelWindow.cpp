@@ -27,7 +27,7 @@ Rect QtPanelWindow::currentFrame() const
 
 void QtPanelWindow::setFrame(const Rect& frame)
 {
-    m_window->setGeometry(rectToQt(frame).toRect());
+    m_window->place(rectToQt(frame).toRect());
 }
 
 void QtPanelWindow::orderFrontRegardless()

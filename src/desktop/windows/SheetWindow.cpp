@@ -26,14 +26,14 @@ SheetWindow::SheetWindow(std::unique_ptr<QWidget> content, QWidget& presenter, S
     m_panel.windowHandle()->installEventFilter(this);
     m_screenChanges = screens.changes([this] {
         if (isVisible())
-            place();
+            placeOnPanel();
     });
 }
 
 void SheetWindow::setVisible(bool visible)
 {
     if (visible)
-        place();
+        placeOnPanel();
     FloatingWindow::setVisible(visible);
 }
 
@@ -48,21 +48,21 @@ bool SheetWindow::eventFilter(QObject* watched, QEvent* event)
         return true;
     if (watched == &m_panel && isVisible()) {
         if (event->type() == QEvent::Move)
-            place();
+            placeOnPanel();
         else if (event->type() == QEvent::ZOrderChange)
             raise();
     }
     return FloatingWindow::eventFilter(watched, event);
 }
 
-void SheetWindow::place()
+void SheetWindow::placeOnPanel()
 {
     const auto panel = rectFromQt(m_panel.geometry());
     const auto screen = m_screens.screenFor(panel);
     if (!screen)
         return;
     const Size wanted{static_cast<double>(m_wantedSize.width()), static_cast<double>(m_wantedSize.height())};
-    setGeometry(rectToQt(placeSheet(panel, screen->visibleFrame, wanted)).toRect());
+    place(rectToQt(placeSheet(panel, screen->visibleFrame, wanted)).toRect());
 }
 
 } // namespace velto

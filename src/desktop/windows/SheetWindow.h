@@ -27,7 +27,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void place();
+    void placeOnPanel();
 
     QWidget& m_content;
     QWidget& m_panel;

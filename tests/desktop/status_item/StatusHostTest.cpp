@@ -35,11 +35,13 @@ TEST(StatusHostPlaceTest, IsToldByTheShellsOfGnomeAndPlasmaOnly)
     EXPECT_FALSE(recognizeStatusHost({"KDE", {"plasmashell", "waybar"}}).tellsPlace);
 }
 
-TEST(StatusHostPlaceTest, IsKnownBeforeAnyClickOnGnomeOnly)
+TEST(StatusHostPlaceTest, IsKnownBeforeAnyClickOnGnomeAndSway)
 {
     EXPECT_TRUE(recognizeStatusHost({"GNOME", {"gnome-shell"}}).isAtTopRight);
     EXPECT_FALSE(recognizeStatusHost({"KDE", {"plasmashell"}}).isAtTopRight);
-    EXPECT_FALSE(recognizeStatusHost({"GNOME", {"gnome-shell", "waybar"}}).isAtTopRight);
+    EXPECT_TRUE(recognizeStatusHost({"sway", {"waybar"}}).isAtTopRight);
+    EXPECT_TRUE(recognizeStatusHost({"sway", {"swaybar"}}).isAtTopRight);
+    EXPECT_FALSE(recognizeStatusHost({"GNOME", {"gnome-shell", "xfce4-panel"}}).isAtTopRight);
 }
 
 constexpr auto label = TimeShape::label;
