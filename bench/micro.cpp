@@ -30,8 +30,8 @@ public:
         runLoop.runTurns();
     }
 
-    [[nodiscard]] PomodoroTimer& timer() { return m_app->timer(); }
-    [[nodiscard]] AppSettings& settings() { return m_app->settings(); }
+    [[nodiscard]] PomodoroTimer& timer() { return m_app->appDelegate().timerProvider(); }
+    [[nodiscard]] AppSettings& settings() { return m_app->appDelegate().settingsProvider(); }
     [[nodiscard]] std::string title() const { return statusItem->button()->title(); }
     [[nodiscard]] std::shared_ptr<Menu> menu() const { return statusItem->menu; }
     void tick() { World::tick(1); }

@@ -15,8 +15,6 @@ public:
     /// `platform` must outlive this.
     explicit VeltoApp(Platform& platform);
 
-    [[nodiscard]] AppSettings& settings() { return m_settings; }
-    [[nodiscard]] PomodoroTimer& timer() { return m_timer; }
     [[nodiscard]] AppDelegate& appDelegate() { return m_appDelegate; }
 
 private:

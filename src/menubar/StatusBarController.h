@@ -38,9 +38,6 @@ public:
     StatusBarController& operator=(const StatusBarController&) = delete;
     ~StatusBarController();
 
-    [[nodiscard]] TimerPanelController& panelController() { return *m_panelController; }
-    [[nodiscard]] StatusMenu& statusMenu() { return m_statusMenu; }
-
     /// The status item was clicked; the application's current event says how.
     void handleStatusItemClick();
 

@@ -40,8 +40,6 @@ public:
         SettingsSheetFactory makeSettingsSheet);
     ~ContentView() override;
 
-    [[nodiscard]] bool showSettings() const { return !m_settingsSheet.isNull(); }
-
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;

@@ -34,7 +34,6 @@ public:
 
     void setTime(const QString& text, double fontSize);
     [[nodiscard]] QString spokenText() const override { return m_text; }
-    [[nodiscard]] double fontSize() const { return m_fontSize; }
 
     /// Everything drawn at this moment.
     [[nodiscard]] std::vector<Glyph> glyphs() const;

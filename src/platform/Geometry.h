@@ -29,7 +29,6 @@ struct Rect {
     [[nodiscard]] double minY() const { return y; }
     [[nodiscard]] double midY() const { return y + height / 2; }
     [[nodiscard]] double maxY() const { return y + height; }
-    [[nodiscard]] Size size() const { return {width, height}; }
     /// Left and bottom edges belong to the rectangle, right and top edges do not.
     [[nodiscard]] bool contains(Point p) const
     {

@@ -22,11 +22,9 @@ public:
 
     void request()
     {
-        if (!isRequested())
+        if (!m_turn.isActive())
             m_turn = m_runLoop.nextTurn([this] { runNow(); });
     }
-
-    [[nodiscard]] bool isRequested() const { return m_turn.isActive(); }
 
     void cancel() { m_turn.cancel(); }
 

@@ -38,10 +38,9 @@ protected:
 TEST_F(SettingsSheetSeamTest, ARequestOpensTheSheetAndAnotherChangesNothing)
 {
     build();
-    EXPECT_FALSE(child<ContentView>().showSettings());
+    EXPECT_EQ(made, 0);
 
     requestSettings();
-    EXPECT_TRUE(child<ContentView>().showSettings());
     ASSERT_TRUE(sheet);
     EXPECT_TRUE(sheet->isVisible());
 
@@ -56,7 +55,7 @@ TEST_F(SettingsSheetSeamTest, TheSheetHidesAndShowsWithThePanelAndIsTheSame)
     const auto* first = sheet.data();
 
     view->hide();
-    EXPECT_TRUE(child<ContentView>().showSettings());
+    ASSERT_TRUE(sheet);
     EXPECT_FALSE(sheet->isVisible());
 
     view->show();
@@ -70,7 +69,6 @@ TEST_F(SettingsSheetSeamTest, DismissingClosesItAndTheNextRequestMakesANewOne)
     build();
     requestSettings();
     dismiss();
-    EXPECT_FALSE(child<ContentView>().showSettings());
     ASSERT_TRUE(QTest::qWaitFor([&] { return sheet.isNull(); }, 20'000));
 
     view->hide();
@@ -103,9 +101,8 @@ TEST_F(SettingsSheetSeamTest, WithoutASheetARequestDoesNothing)
 {
     makeSheet = {};
     build();
-    requestSettings();
 
-    EXPECT_FALSE(child<ContentView>().showSettings());
+    EXPECT_NO_THROW(requestSettings());
 }
 
 } // namespace

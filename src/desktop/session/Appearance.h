@@ -27,11 +27,11 @@ public:
     explicit Appearance(SessionBus& bus);
 
     [[nodiscard]] Theme theme() const;
-    [[nodiscard]] bool reducesMotion() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    [[nodiscard]] bool reducesMotion() const;
     void apply();
 
     QPalette m_desktopPalette;

@@ -7,44 +7,59 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include <malloc.h>
 
 namespace velto {
 
 using namespace std::chrono_literals;
 
-class VeltoAppTest : public testing::Test, protected World { };
+class VeltoAppTest : public testing::Test, protected World {
+protected:
+    PomodoroTimer& timer() { return app().appDelegate().timerProvider(); }
+
+    /// Made on first use, so that a test can fill the store before.
+    VeltoApp& app()
+    {
+        if (!m_app)
+            m_app.emplace(platform);
+        return *m_app;
+    }
+
+    void launch() { app().appDelegate().applicationDidFinishLaunching(); }
+
+private:
+    std::optional<VeltoApp> m_app;
+};
 
 TEST_F(VeltoAppTest, TheDelegateSharesItsTimerAndSettings)
 {
-    VeltoApp app{platform};
-
-    EXPECT_EQ(&app.appDelegate().timerProvider(), &app.timer());
-    EXPECT_EQ(&app.appDelegate().settingsProvider(), &app.settings());
-    EXPECT_FALSE(app.appDelegate().statusBarController);
+    EXPECT_FALSE(app().appDelegate().statusBarController);
     EXPECT_EQ(statusItemsMade, 0);
     EXPECT_TRUE(store.writes.empty());
+
+    timer().updateDurations(40, 10);
+    EXPECT_EQ(timer().remainingSeconds(), 2400);
+    EXPECT_EQ(app().appDelegate().settingsProvider().focusMinutes(), 40);
 }
 
 TEST_F(VeltoAppTest, AtLaunchTheTimerShowsTheStoredFocusDurationAndWaits)
 {
     store.values["focusMinutes"] = std::int64_t{40};
-    VeltoApp app{platform};
-
-    app.appDelegate().applicationDidFinishLaunching();
+    launch();
     runLoop.advance(400ms);
 
     EXPECT_TRUE(panel->isVisible());
     EXPECT_EQ(statusItem->button()->title(), "40:00");
-    EXPECT_EQ(app.timer().remainingSeconds(), 2400);
-    EXPECT_FALSE(app.timer().isRunning());
-    EXPECT_FALSE(app.timer().hasStarted());
+    EXPECT_EQ(timer().remainingSeconds(), 2400);
+    EXPECT_FALSE(timer().isRunning());
+    EXPECT_FALSE(timer().hasStarted());
 }
 
 TEST_F(VeltoAppTest, AWholeRoundFromTheMenuAndBack)
 {
-    VeltoApp app{platform};
-    app.appDelegate().applicationDidFinishLaunching();
+    launch();
     runLoop.advance(1s);
     click({.kind = ClickEvent::Kind::leftMouseUp});
     const auto choose = [&](const std::string& path) {
@@ -65,7 +80,7 @@ TEST_F(VeltoAppTest, AWholeRoundFromTheMenuAndBack)
     EXPECT_EQ(statusItem->button()->title(), "05:00");
     EXPECT_TRUE(panel->isVisible());
     EXPECT_EQ(statusItem->menu->items.front()->title, "Pause Break");
-    EXPECT_FALSE(app.timer().musicPlayer().isPlaying());
+    EXPECT_FALSE(timer().musicPlayer().isPlaying());
 
     runLoop.advance(301s);
     EXPECT_EQ(statusItem->menu->items.front()->title, "Pause Focus");
@@ -77,9 +92,8 @@ TEST_F(VeltoAppTest, TenThousandPhasesLeaveNothingBehind)
 {
     store.values = {{"focusMinutes", std::int64_t{1}}, {"breakMinutes", std::int64_t{1}}, {"autoTransition", true},
         {"enableFocusMusic", true}};
-    VeltoApp app{platform};
-    app.appDelegate().applicationDidFinishLaunching();
-    app.timer().start();
+    launch();
+    timer().start();
     const auto bytesAfter = [&](int phases) {
         for (int phase = 0; phase < phases; ++phase) {
             runLoop.advance(61s);
@@ -101,7 +115,7 @@ TEST_F(VeltoAppTest, TenThousandPhasesLeaveNothingBehind)
         GTEST_SKIP() << "another allocator keeps no count";
 
     EXPECT_EQ(later, before);
-    EXPECT_TRUE(app.timer().isRunning());
+    EXPECT_TRUE(timer().isRunning());
 }
 
 } // namespace velto

@@ -50,7 +50,13 @@ protected:
         return *statusItem->button();
     }
 
-    Lines menu() { return menuText(*controller().statusMenu().menu()); }
+    Menu& topMenu()
+    {
+        controller();
+        return *statusItem->menu;
+    }
+
+    Lines menu() { return menuText(topMenu()); }
 
     /// What the user reads once everything waiting has been delivered.
     Lines settledMenu()
@@ -62,7 +68,7 @@ protected:
 
     void choose(const std::string& path)
     {
-        const auto* item = menuItem(*controller().statusMenu().menu(), path);
+        const auto* item = menuItem(topMenu(), path);
         ASSERT_NE(item, nullptr) << path;
         ASSERT_TRUE(item->action) << path;
         item->action(*item);

@@ -84,7 +84,7 @@ TEST_F(StatusMenuActionsTest, AnItemWithoutASuitableValueDoesNothing)
         {"Focus Music / Lush", MusicPreset::lush},
     };
     for (const auto& [path, value] : cases) {
-        auto item = *menuItem(*controller().statusMenu().menu(), path);
+        auto item = *menuItem(topMenu(), path);
         item.representedObject = value;
 
         item.action(item);

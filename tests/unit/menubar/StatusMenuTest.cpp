@@ -102,7 +102,7 @@ TEST_F(StatusMenuTest, OnlyTheTwoDurationsAreCheckedWhenBuilt)
 
 TEST_F(StatusMenuTest, OnlyChoicesCanHaveAMark)
 {
-    forEachItem(*controller().statusMenu().menu(), [](const MenuItem& item) {
+    forEachItem(topMenu(), [](const MenuItem& item) {
         EXPECT_EQ(item.isCheckable, item.representedObject.has_value() || item.title == "Auto-Transition")
             << item.title;
     });
@@ -110,7 +110,7 @@ TEST_F(StatusMenuTest, OnlyChoicesCanHaveAMark)
 
 TEST_F(StatusMenuTest, HasTheRightNumberOfEntries)
 {
-    const auto& top = *controller().statusMenu().menu();
+    const auto& top = topMenu();
     const auto entries = [&](const std::string& title) { return menuItem(top, title)->submenu->items.size(); };
 
     EXPECT_EQ(top.title, "");
@@ -126,7 +126,7 @@ TEST_F(StatusMenuTest, HasTheRightNumberOfEntries)
 
 TEST_F(StatusMenuTest, OnlySeparatorsAndItemsWithASubmenuHaveNoAction)
 {
-    forEachItem(*controller().statusMenu().menu(), [](const MenuItem& item) {
+    forEachItem(topMenu(), [](const MenuItem& item) {
         EXPECT_EQ(static_cast<bool>(item.action), !item.isSeparator && !item.submenu) << item.title;
         if (item.submenu) {
             EXPECT_EQ(item.submenu->title, item.title);
@@ -138,7 +138,7 @@ TEST_F(StatusMenuTest, OnlySeparatorsAndItemsWithASubmenuHaveNoAction)
 TEST_F(StatusMenuTest, ItemsCarryWhatTheyStandFor)
 {
     std::vector<std::string> carried;
-    forEachItem(*controller().statusMenu().menu(), [&](const MenuItem& item) {
+    forEachItem(topMenu(), [&](const MenuItem& item) {
         if (const auto* duration = std::any_cast<DurationChoice>(&item.representedObject))
             carried.push_back(std::to_string(duration->minutes));
         else if (const auto* preset = std::any_cast<DurationPreset>(&item.representedObject))
@@ -165,7 +165,7 @@ TEST_F(StatusMenuTest, IsNeverRebuilt)
 {
     const auto items = [this] {
         std::vector<const MenuItem*> all;
-        forEachItem(*controller().statusMenu().menu(), [&](const MenuItem& item) { all.push_back(&item); });
+        forEachItem(topMenu(), [&](const MenuItem& item) { all.push_back(&item); });
         return all;
     };
     const auto built = items();
@@ -316,7 +316,7 @@ TEST_F(StatusMenuTest, AutoTransitionIsMarkedWhenBuiltAndOnEveryRefresh)
     timer().autoTransition.set(false);
     EXPECT_EQ(changedLines(freshMenu, settledMenu()), Lines{"Auto-Transition [on]"}) << "no refresh yet";
 
-    controller().statusMenu().menu()->willOpen();
+    topMenu().willOpen();
     EXPECT_EQ(menu(), freshMenu);
 }
 

@@ -16,7 +16,6 @@ TEST(RectTest, KnowsItsEdgesAndMiddle)
     EXPECT_EQ(rect.minY(), 20);
     EXPECT_EQ(rect.midY(), 31);
     EXPECT_EQ(rect.maxY(), 42);
-    EXPECT_EQ(rect.size(), (Size{41, 22}));
 }
 
 TEST(RectTest, ContainsItsLeftAndBottomEdgesButNotItsRightAndTop)
