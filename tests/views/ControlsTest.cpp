@@ -51,8 +51,7 @@ TEST_F(ControlsTest, TabGoesThroughAllInOrder)
 {
     button->setFocus();
 
-    for (QWidget* next : {static_cast<QWidget*>(toggle), static_cast<QWidget*>(slider), static_cast<QWidget*>(picker),
-             static_cast<QWidget*>(field)}) {
+    for (const auto* next : QWidgetList{toggle, slider, picker, field}) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget(), next);
     }
@@ -147,7 +146,7 @@ TEST_F(ControlsTest, TheWheelIsLeftToWhatScrolls)
 {
     slider->setValue(50);
     picker->setCurrentIndex(1);
-    for (QWidget* widget : {static_cast<QWidget*>(slider), static_cast<QWidget*>(picker)}) {
+    for (auto* widget : QWidgetList{slider, picker}) {
         QWheelEvent event({5, 5}, widget->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
             Qt::NoScrollPhase, false);
         QApplication::sendEvent(widget, &event);

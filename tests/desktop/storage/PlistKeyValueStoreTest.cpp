@@ -29,6 +29,16 @@ bool inAnotherProcess(const std::function<bool()>& work)
     return ::waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == EXIT_SUCCESS;
 }
 
+/// Permissions say nothing to the superuser, so somebody else becomes the owner of `paths`.
+bool leaveTheSuperuser(const std::vector<fs::path>& paths)
+{
+    constexpr uid_t nobody = 65534;
+    if (::geteuid() != 0)
+        return true;
+    return std::ranges::all_of(paths, [](const auto& path) { return ::chown(path.c_str(), nobody, nobody) == 0; })
+        && ::setuid(nobody) == 0;
+}
+
 } // namespace
 
 TEST_F(PlistKeyValueStoreTest, NothingIsWrittenBeforeTheFirstAssignment)
@@ -262,15 +272,8 @@ TEST_F(PlistKeyValueStoreTest, AReadOnlyFolderCostsNothingAndTheNextAssignmentTr
     fs::permissions(folder.path(), fs::perms{0755});
 
     const bool held = inAnotherProcess([&] {
-        // Permissions say nothing to the superuser.
-        constexpr uid_t nobody = 65534;
-        if (::geteuid() == 0) {
-            for (const auto& path : {file.parent_path().parent_path(), file.parent_path(), file})
-                if (::chown(path.c_str(), nobody, nobody) != 0)
-                    return false;
-            if (::setuid(nobody) != 0)
-                return false;
-        }
+        if (!leaveTheSuperuser({file.parent_path().parent_path(), file.parent_path(), file}))
+            return false;
         fs::permissions(file.parent_path(), fs::perms{0500});
         PlistKeyValueStore store{file};
 
@@ -293,14 +296,8 @@ TEST_F(PlistKeyValueStoreTest, AFileThatMayNotBeReadStaysUntilItMay)
     fs::permissions(folder.path(), fs::perms{0755});
 
     const bool held = inAnotherProcess([&] {
-        constexpr uid_t nobody = 65534;
-        if (::geteuid() == 0) {
-            for (const auto& path : {file.parent_path(), file})
-                if (::chown(path.c_str(), nobody, nobody) != 0)
-                    return false;
-            if (::setuid(nobody) != 0)
-                return false;
-        }
+        if (!leaveTheSuperuser({file.parent_path(), file}))
+            return false;
         fs::permissions(file, fs::perms{0});
         PlistKeyValueStore store{file};
         assign(store, "breakMinutes", std::int64_t{7});

@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <string>
 #include <vector>
 
 namespace velto {
@@ -54,11 +53,7 @@ TEST(PlacePanelTest, HangsUnderTheButtonWithinTheUsableArea)
     for (const auto& [name, button, usable, x, y] : cases) {
         SCOPED_TRACE(name);
 
-        const auto placed = placePanel(button, usable, TimerPanelController::panelSize);
-
-        EXPECT_EQ(placed.x, x);
-        EXPECT_EQ(placed.y, y);
-        EXPECT_EQ(placed.size(), (Size{360, 420}));
+        EXPECT_EQ(placePanel(button, usable, TimerPanelController::panelSize), (Rect{x, y, 360, 420}));
     }
 }
 
@@ -83,9 +78,7 @@ TEST(PulledInsideTest, MovesNoFurtherThanNeeded)
     for (const auto& [name, frame, usable, x, y] : cases) {
         SCOPED_TRACE(name);
 
-        const auto placed = pulledInside(frame, usable);
-
-        EXPECT_EQ(placed, (Rect{x, y, 360, 420}));
+        EXPECT_EQ(pulledInside(frame, usable), (Rect{x, y, 360, 420}));
     }
 }
 
@@ -93,7 +86,6 @@ TEST(PulledInsideTest, MovesNoFurtherThanNeeded)
 
 class TimerPanelControllerTest : public testing::Test, protected World {
 protected:
-    void press() { eventMonitor.pressOutside(); }
     [[nodiscard]] std::size_t monitors() const { return eventMonitor.installedMonitors(); }
 
     FakeStatusItemButton button;
@@ -156,26 +148,16 @@ TEST_F(TimerPanelControllerTest, AVisiblePanelStaysWithinReachWhenScreensChange)
     EXPECT_EQ(panel->placements, placements);
 }
 
-TEST_F(TimerPanelControllerTest, MovesToTheMainScreenWhenItsOwnIsGone)
+TEST_F(TimerPanelControllerTest, UsesTheScreenOfTheButtonAndTheMainOneWhenThatIsGone)
 {
     const auto mainScreen = screens.screens.front();
     screens.screens.push_back({.frame = {-1920, 0, 1920, 1080}, .visibleFrame = {-1920, 0, 1920, 1055}});
     button.rect = Rect{-500, 1058, 40, 22};
     controller.show(&button);
+    EXPECT_EQ(panel->frame, (Rect{-660, 632, 360, 420}));
 
     screens.change({mainScreen});
-
     EXPECT_EQ(panel->frame, (Rect{0, 457, 360, 420}));
-}
-
-TEST_F(TimerPanelControllerTest, UsesTheScreenOfTheButton)
-{
-    screens.screens.push_back({.frame = {-1920, 0, 1920, 1080}, .visibleFrame = {-1920, 0, 1920, 1055}});
-    button.rect = Rect{-500, 1058, 40, 22};
-
-    controller.show(&button);
-
-    EXPECT_EQ(panel->frame, (Rect{-660, 632, 360, 420}));
 }
 
 TEST_F(TimerPanelControllerTest, UsesTheMainScreenWhenTheButtonIsOnNone)
@@ -214,28 +196,19 @@ TEST_F(TimerPanelControllerTest, WithoutAScreenIsShownWhereItWasAndNotMonitored)
     }
 }
 
-TEST_F(TimerPanelControllerTest, APressOutsideHidesItAndEndsMonitoring)
+TEST_F(TimerPanelControllerTest, APressOutsideHidesItAndEndsMonitoringEachTime)
 {
-    controller.show(&button);
-    EXPECT_EQ(monitors(), 1U);
+    for (const int round : {1, 2}) {
+        controller.show(&button);
+        EXPECT_EQ(monitors(), 1U);
 
-    press();
+        eventMonitor.pressOutside();
 
-    EXPECT_FALSE(panel->isVisible());
-    EXPECT_EQ(monitors(), 0U);
-}
-
-TEST_F(TimerPanelControllerTest, AfterAPressOutsideItCanBeShownAndHiddenAgain)
-{
-    controller.show(&button);
-    press();
-
-    controller.show(&button);
-    press();
-
+        EXPECT_FALSE(panel->isVisible());
+        EXPECT_EQ(panel->outs, round);
+        EXPECT_EQ(monitors(), 0U);
+    }
     EXPECT_EQ(eventMonitor.requests, 2);
-    EXPECT_FALSE(panel->isVisible());
-    EXPECT_EQ(panel->outs, 2);
 }
 
 TEST_F(TimerPanelControllerTest, InstallsOneMonitorHoweverOftenShownAndHideRemovesIt)

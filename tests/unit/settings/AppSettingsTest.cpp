@@ -2,6 +2,7 @@
 #include "settings/AppSettings.h"
 
 #include "settings/Minutes.h"
+#include "support/EverySetting.h"
 #include "support/FakeKeyValueStore.h"
 #include "support/FakeSoundLibrary.h"
 
@@ -31,6 +32,23 @@ std::string quoted(std::string_view text)
     return '"' + std::string(text) + '"';
 }
 
+/// `others` as they are stored.
+const Writes otherWrites{
+    {"focusMinutes", std::int64_t{50}},
+    {"breakMinutes", std::int64_t{10}},
+    {"autoTransition", true},
+    {"countdownSound", blob(quoted("Ping"))},
+    {"focusEndSound", blob(quoted("Basso"))},
+    {"breakEndSound", blob(quoted("None"))},
+    {"focusMusicPreset", blob(quoted("Custom URL"))},
+    {"breakMusicPreset", blob(quoted("DEF CON Radio"))},
+    {"focusCustomURL", std::string("https://example.org/focus")},
+    {"breakCustomURL", std::string(" any text ")},
+    {"enableFocusMusic", true},
+    {"enableBreakMusic", true},
+    {"musicVolume", 0.75F},
+};
+
 } // namespace
 
 class AppSettingsTest : public testing::Test {
@@ -43,21 +61,7 @@ protected:
 
 TEST_F(AppSettingsTest, AnEmptyStoreYieldsTheDefaults)
 {
-    const auto settings = load();
-
-    EXPECT_EQ(settings.focusMinutes(), 25);
-    EXPECT_EQ(settings.breakMinutes(), 5);
-    EXPECT_FALSE(settings.autoTransition());
-    EXPECT_EQ(settings.countdownSound(), SoundOption::tink);
-    EXPECT_EQ(settings.focusEndSound(), SoundOption::glass);
-    EXPECT_EQ(settings.breakEndSound(), SoundOption::submarine);
-    EXPECT_EQ(settings.focusMusicPreset(), MusicPreset::lofi);
-    EXPECT_EQ(settings.breakMusicPreset(), MusicPreset::lofi);
-    EXPECT_EQ(settings.focusCustomURL(), "");
-    EXPECT_EQ(settings.breakCustomURL(), "");
-    EXPECT_FALSE(settings.enableFocusMusic());
-    EXPECT_FALSE(settings.enableBreakMusic());
-    EXPECT_EQ(settings.musicVolume(), 0.25F);
+    EXPECT_EQ(valuesOf(load()), defaults);
 }
 
 TEST_F(AppSettingsTest, LoadingWritesNothing)
@@ -72,37 +76,10 @@ TEST_F(AppSettingsTest, LoadingWritesNothing)
 
 TEST_F(AppSettingsTest, LoadsWhatIsStored)
 {
-    store.values = {
-        {"focusMinutes", std::int64_t{50}},
-        {"breakMinutes", std::int64_t{10}},
-        {"autoTransition", true},
-        {"countdownSound", blob(quoted("Ping"))},
-        {"focusEndSound", blob(quoted("Basso"))},
-        {"breakEndSound", blob(quoted("None"))},
-        {"focusMusicPreset", blob(quoted("Custom URL"))},
-        {"breakMusicPreset", blob(quoted("DEF CON Radio"))},
-        {"focusCustomURL", std::string("https://example.org/focus")},
-        {"breakCustomURL", std::string(" any text ")},
-        {"enableFocusMusic", true},
-        {"enableBreakMusic", true},
-        {"musicVolume", 0.75F},
-    };
+    for (const auto& [key, value] : otherWrites)
+        store.values[key] = value;
 
-    const auto settings = load();
-
-    EXPECT_EQ(settings.focusMinutes(), 50);
-    EXPECT_EQ(settings.breakMinutes(), 10);
-    EXPECT_TRUE(settings.autoTransition());
-    EXPECT_EQ(settings.countdownSound(), SoundOption::ping);
-    EXPECT_EQ(settings.focusEndSound(), SoundOption::basso);
-    EXPECT_EQ(settings.breakEndSound(), SoundOption::none);
-    EXPECT_EQ(settings.focusMusicPreset(), MusicPreset::custom);
-    EXPECT_EQ(settings.breakMusicPreset(), MusicPreset::defconRadio);
-    EXPECT_EQ(settings.focusCustomURL(), "https://example.org/focus");
-    EXPECT_EQ(settings.breakCustomURL(), " any text ");
-    EXPECT_TRUE(settings.enableFocusMusic());
-    EXPECT_TRUE(settings.enableBreakMusic());
-    EXPECT_EQ(settings.musicVolume(), 0.75F);
+    EXPECT_EQ(valuesOf(load()), others);
 }
 
 TEST_F(AppSettingsTest, ZeroAndNegativeMinutesAreKept)
@@ -140,26 +117,26 @@ TEST_F(AppSettingsTest, AValueOfTheWrongKindCountsAsTheDefault)
         std::int64_t{1}, true, 1.0F, std::string("Basso"), blob(quoted("Basso")), blob(quoted("Lush"))};
     for (std::size_t i = 0; i < everyKind.size(); ++i) {
         SCOPED_TRACE(i);
-        for (const auto* key : {"focusMinutes", "breakMinutes", "autoTransition", "countdownSound", "focusEndSound",
-                 "breakEndSound", "focusMusicPreset", "breakMusicPreset", "focusCustomURL", "breakCustomURL",
-                 "enableFocusMusic", "enableBreakMusic", "musicVolume"})
+        for (const auto& [key, value] : otherWrites)
             store.values[key] = everyKind[i];
+        auto expected = defaults;
+        auto& [focusMinutes, breakMinutes, autoTransition, countdown, focusEnd, breakEnd, focusPreset, breakPreset,
+            focusURL, breakURL, focusMusic, breakMusic, volume]
+            = expected;
+        if (i == 0)
+            focusMinutes = breakMinutes = 1;
+        else if (i == 1)
+            autoTransition = focusMusic = breakMusic = true;
+        else if (i == 2)
+            volume = 1;
+        else if (i == 3)
+            focusURL = breakURL = "Basso";
+        else if (i == 4)
+            countdown = focusEnd = breakEnd = SoundOption::basso;
+        else
+            focusPreset = breakPreset = MusicPreset::lush;
 
-        const auto settings = load();
-
-        EXPECT_EQ(settings.focusMinutes(), i == 0 ? 1 : 25);
-        EXPECT_EQ(settings.breakMinutes(), i == 0 ? 1 : 5);
-        EXPECT_EQ(settings.autoTransition(), i == 1);
-        EXPECT_EQ(settings.enableFocusMusic(), i == 1);
-        EXPECT_EQ(settings.enableBreakMusic(), i == 1);
-        EXPECT_EQ(settings.musicVolume(), i == 2 ? 1.0F : 0.25F);
-        EXPECT_EQ(settings.focusCustomURL(), i == 3 ? "Basso" : "");
-        EXPECT_EQ(settings.breakCustomURL(), i == 3 ? "Basso" : "");
-        EXPECT_EQ(settings.countdownSound(), i == 4 ? SoundOption::basso : SoundOption::tink);
-        EXPECT_EQ(settings.focusEndSound(), i == 4 ? SoundOption::basso : SoundOption::glass);
-        EXPECT_EQ(settings.breakEndSound(), i == 4 ? SoundOption::basso : SoundOption::submarine);
-        EXPECT_EQ(settings.focusMusicPreset(), i == 5 ? MusicPreset::lush : MusicPreset::lofi);
-        EXPECT_EQ(settings.breakMusicPreset(), i == 5 ? MusicPreset::lush : MusicPreset::lofi);
+        EXPECT_EQ(valuesOf(load()), expected);
     }
 }
 
@@ -194,36 +171,9 @@ TEST_F(AppSettingsTest, EveryAssignmentIsWrittenAtOnceUnderItsKey)
 {
     auto settings = load();
 
-    settings.focusMinutes.set(50);
-    settings.breakMinutes.set(-1);
-    settings.autoTransition.set(true);
-    settings.countdownSound.set(SoundOption::basso);
-    settings.focusEndSound.set(SoundOption::glass);
-    settings.breakEndSound.set(SoundOption::tink);
-    settings.focusMusicPreset.set(MusicPreset::defconRadio);
-    settings.breakMusicPreset.set(MusicPreset::custom);
-    settings.focusCustomURL.set("https://example.org/a");
-    settings.breakCustomURL.set("");
-    settings.enableFocusMusic.set(true);
-    settings.enableBreakMusic.set(false);
-    settings.musicVolume.set(0.5F);
+    setEvery(settings, others);
 
-    EXPECT_EQ(store.writes,
-        (Writes{
-            {"focusMinutes", std::int64_t{50}},
-            {"breakMinutes", std::int64_t{-1}},
-            {"autoTransition", true},
-            {"countdownSound", blob(quoted("Basso"))},
-            {"focusEndSound", blob(quoted("Glass"))},
-            {"breakEndSound", blob(quoted("Tink"))},
-            {"focusMusicPreset", blob(quoted("DEF CON Radio"))},
-            {"breakMusicPreset", blob(quoted("Custom URL"))},
-            {"focusCustomURL", std::string("https://example.org/a")},
-            {"breakCustomURL", std::string()},
-            {"enableFocusMusic", true},
-            {"enableBreakMusic", false},
-            {"musicVolume", 0.5F},
-        }));
+    EXPECT_EQ(store.writes, otherWrites);
 }
 
 TEST_F(AppSettingsTest, StoresNoneAsASixByteBlob)

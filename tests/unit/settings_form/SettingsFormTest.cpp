@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SettingsFormFixture.h"
+#include "support/EverySetting.h"
 
 namespace velto {
 
@@ -12,35 +13,11 @@ using SettingsFormTest = SettingsFormFixture;
 
 TEST_F(SettingsFormTest, StartsFromTheCurrentSettings)
 {
-    settings.focusMinutes.set(40);
-    settings.breakMinutes.set(10);
-    settings.autoTransition.set(true);
-    settings.countdownSound.set(SoundOption::pop);
-    settings.focusEndSound.set(SoundOption::hero);
-    settings.breakEndSound.set(SoundOption::none);
-    settings.focusMusicPreset.set(MusicPreset::lush);
-    settings.breakMusicPreset.set(MusicPreset::custom);
-    settings.focusCustomURL.set("focus address");
-    settings.breakCustomURL.set("break address");
-    settings.enableFocusMusic.set(true);
-    settings.enableBreakMusic.set(true);
-    settings.musicVolume.set(0.5F);
+    setEvery(settings, others);
 
     open();
 
-    EXPECT_EQ(form->focusMinutes(), 40);
-    EXPECT_EQ(form->breakMinutes(), 10);
-    EXPECT_TRUE(form->autoTransition());
-    EXPECT_EQ(form->countdownSound(), SoundOption::pop);
-    EXPECT_EQ(form->focusEndSound(), SoundOption::hero);
-    EXPECT_EQ(form->breakEndSound(), SoundOption::none);
-    EXPECT_EQ(form->focusMusicPreset(), MusicPreset::lush);
-    EXPECT_EQ(form->breakMusicPreset(), MusicPreset::custom);
-    EXPECT_EQ(form->focusCustomURL(), "focus address");
-    EXPECT_EQ(form->breakCustomURL(), "break address");
-    EXPECT_TRUE(form->enableFocusMusic());
-    EXPECT_TRUE(form->enableBreakMusic());
-    EXPECT_EQ(form->musicVolume(), 0.5F);
+    EXPECT_EQ(valuesOf(*form), others);
     EXPECT_THAT(calls, IsEmpty());
 }
 
@@ -97,35 +74,11 @@ TEST_F(SettingsFormTest, ApplyingAnUntouchedFormWritesAllThirteenSettingsAndCall
 TEST_F(SettingsFormTest, ApplyingWritesEveryEditedValue)
 {
     open();
-    form->focusMinutes.set(999);
-    form->breakMinutes.set(1);
-    form->autoTransition.set(true);
-    form->countdownSound.set(SoundOption::basso);
-    form->focusEndSound.set(SoundOption::blow);
-    form->breakEndSound.set(SoundOption::bottle);
-    form->focusMusicPreset.set(MusicPreset::ambient);
-    form->breakMusicPreset.set(MusicPreset::custom);
-    form->focusCustomURL.set("a");
-    form->breakCustomURL.set(" not an address ");
-    form->enableFocusMusic.set(true);
-    form->enableBreakMusic.set(true);
-    form->musicVolume.set(0.75F);
+    setEvery(*form, others);
 
     form->apply();
 
-    EXPECT_EQ(settings.focusMinutes(), 999);
-    EXPECT_EQ(settings.breakMinutes(), 1);
-    EXPECT_TRUE(settings.autoTransition());
-    EXPECT_EQ(settings.countdownSound(), SoundOption::basso);
-    EXPECT_EQ(settings.focusEndSound(), SoundOption::blow);
-    EXPECT_EQ(settings.breakEndSound(), SoundOption::bottle);
-    EXPECT_EQ(settings.focusMusicPreset(), MusicPreset::ambient);
-    EXPECT_EQ(settings.breakMusicPreset(), MusicPreset::custom);
-    EXPECT_EQ(settings.focusCustomURL(), "a");
-    EXPECT_EQ(settings.breakCustomURL(), " not an address ");
-    EXPECT_TRUE(settings.enableFocusMusic());
-    EXPECT_TRUE(settings.enableBreakMusic());
-    EXPECT_EQ(settings.musicVolume(), 0.75F);
+    EXPECT_EQ(valuesOf(settings), others);
 }
 
 TEST_F(SettingsFormTest, EachPhasesMusicIsSwitchedSeparately)
