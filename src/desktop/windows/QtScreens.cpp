@@ -15,41 +15,33 @@ namespace velto {
 
 namespace {
 
-/// What a dock reserves along the edges of the whole desktop, in pixels.
-struct Strut {
-    QPoint dockCentre;
-    int left = 0;
-    int right = 0;
-    int top = 0;
-    int bottom = 0;
+/// A dock by its middle, and what it leaves of the whole desktop, in pixels.
+struct Dock {
+    QPoint middle;
+    QRect rest;
 };
 
-struct Struts {
-    QSize desktop;
-    std::vector<Strut> all;
-};
-
-Struts currentStruts()
+std::vector<Dock> docks()
 {
-    const xcb_window_t root = x11::rootWindow();
+    const auto root = x11::rootWindow();
     const auto whole = x11::geometry(root);
     if (!whole)
         return {};
-
-    Struts struts{whole->size(), {}};
-    const xcb_atom_t partial = x11::atom("_NET_WM_STRUT_PARTIAL");
-    const xcb_atom_t simple = x11::atom("_NET_WM_STRUT");
-    for (const xcb_window_t window : x11::property(root, x11::atom("_NET_CLIENT_LIST"))) {
-        auto widths = x11::property(window, partial);
-        if (widths.size() < 4)
-            widths = x11::property(window, simple);
-        if (widths.size() < 4)
+    std::vector<Dock> found;
+    const auto partial = x11::atom("_NET_WM_STRUT_PARTIAL");
+    const auto simple = x11::atom("_NET_WM_STRUT");
+    for (const auto window : x11::property(root, x11::atom("_NET_CLIENT_LIST"))) {
+        auto strut = x11::property(window, partial);
+        if (strut.size() < 4)
+            strut = x11::property(window, simple);
+        if (strut.size() < 4)
             continue;
+        const auto width = [&strut](std::size_t side) { return static_cast<int>(strut[side]); };
+        const QMargins reserved(width(0), width(2), width(1), width(3)); // told as left, right, top, bottom
         if (const auto dock = x11::geometry(window))
-            struts.all.push_back({dock->center(), static_cast<int>(widths[0]), static_cast<int>(widths[1]),
-                static_cast<int>(widths[2]), static_cast<int>(widths[3])});
+            found.push_back({dock->center(), whole->marginsRemoved(reserved)});
     }
-    return struts;
+    return found;
 }
 
 /// With several screens, Qt takes all of each as usable, since the desktop has only one work area. So what a bar
@@ -61,16 +53,10 @@ QRectF usableArea(const QScreen& screen)
         return available;
 
     const QRect pixels = toPixels(screen.geometry(), screen);
-    const Struts struts = currentStruts();
     QRect free = pixels;
-    for (const Strut& strut : struts.all) {
-        if (!pixels.contains(strut.dockCentre))
-            continue;
-        const QRect rest{QPoint{strut.left, strut.top},
-            QPoint{struts.desktop.width() - strut.right - 1, struts.desktop.height() - strut.bottom - 1}};
-        if (const QRect narrowed = free & rest; !narrowed.isEmpty())
+    for (const auto& dock : docks())
+        if (const auto narrowed = free & dock.rest; pixels.contains(dock.middle) && !narrowed.isEmpty())
             free = narrowed;
-    }
     return toPoints(free) & QRectF{available};
 }
 
