@@ -22,6 +22,7 @@ TEST(TimerDisplayTest, ProgressIsTheFractionElapsed)
     EXPECT_EQ(phaseProgress(1500, 1500), 0.0);
     EXPECT_EQ(phaseProgress(750, 1500), 0.5);
     EXPECT_EQ(phaseProgress(0, 1500), 1.0);
+    EXPECT_EQ(phaseProgress(0, 1), 1.0);
 }
 
 TEST(TimerDisplayTest, APhaseOfNoLengthHasNoProgress)
