@@ -7,6 +7,7 @@
 #include "style/ScrollBar.h"
 
 #include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QComboBox>
 #include <QEvent>
 #include <QFrame>
@@ -138,6 +139,21 @@ bool PickerList::eventFilter(QObject* watched, QEvent* event)
         }
     }
     return QListView::eventFilter(watched, event);
+}
+
+void PickerList::focusInEvent(QFocusEvent* event)
+{
+    QListView::focusInEvent(event);
+    // Assistive technology hears of the list after this, and then wants to know where in it.
+    QMetaObject::invokeMethod(this, &PickerList::tellChoice, Qt::QueuedConnection);
+}
+
+void PickerList::tellChoice()
+{
+    setCurrentIndex(model()->index(m_picker.currentIndex(), 0));
+    QAccessibleEvent focus(this, QAccessible::Focus);
+    focus.setChild(currentIndex().row());
+    QAccessible::updateAccessibility(&focus);
 }
 
 void PickerList::placeCard()

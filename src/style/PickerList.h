@@ -18,8 +18,12 @@ public:
     /// Becomes the list of `picker`, which owns it.
     explicit PickerList(QComboBox& picker);
 
+    /// Has assistive technology say what is chosen.
+    void tellChoice();
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
 private:
     void placeCard();

@@ -6,6 +6,7 @@
 #include "style/PickerList.h"
 #include "style/TextStyle.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
@@ -38,7 +39,7 @@ PopUpPicker::PopUpPicker(const QString& title)
     setAttribute(Qt::WA_Hover);
     // As long as the screen allows, which Qt sees to.
     setMaxVisibleItems(std::numeric_limits<int>::max());
-    new PickerList(*this);
+    m_list = new PickerList(*this);
 }
 
 QSize PopUpPicker::sizeHint() const
@@ -76,6 +77,14 @@ void PopUpPicker::paintEvent(QPaintEvent*)
 
     if (showsFocus(*this))
         drawFocusRing(painter, frame, cornerRadius, color(ColorName::teal, *this));
+}
+
+void PopUpPicker::keyPressEvent(QKeyEvent* event)
+{
+    const int before = currentIndex();
+    QComboBox::keyPressEvent(event);
+    if (currentIndex() != before)
+        m_list->tellChoice();
 }
 
 void PopUpPicker::wheelEvent(QWheelEvent* event)

@@ -5,6 +5,8 @@
 
 namespace velto {
 
+class PickerList;
+
 /// A button that shows what is chosen and opens the list of choices. The wheel is left to what
 /// scrolls around it.
 class PopUpPicker : public QComboBox {
@@ -20,6 +22,10 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    PickerList* m_list = nullptr;
 };
 
 } // namespace velto
