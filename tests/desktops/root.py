@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 """A root of Debian with one desktop in it, and a session of that desktop in namespaces of its own."""
+import contextlib
 import os
 import signal
 import subprocess
@@ -86,7 +87,7 @@ class Session:
     up, and stays. `user` is a user id."""
 
     def __init__(self, root, start, user=0, log=os.devnull):
-        self._user, self._log = user, open(log, "w")
+        self._user, self._log, self._inside = user, open(log, "w"), None
         self._process = subprocess.Popen(
             ["unshare", "--pid", "--fork", "--kill-child", "--net", "--ipc", "--uts", "--mount", "bash", "-c", _ENTER,
              "enter", root.folder, PROJECT, str(user), _INIT, start],
@@ -130,6 +131,9 @@ class Session:
         return subprocess.Popen(self._command(*command), stdout=self._log, stderr=self._log, text=True, **options)
 
     def close(self):
+        if self._inside:  # The first process in it, with which all others go; it has forgotten whose child it is.
+            with contextlib.suppress(ProcessLookupError):
+                os.kill(int(self._inside), signal.SIGKILL)
         self._process.send_signal(signal.SIGKILL)
         self._process.wait()
         self._log.close()
