@@ -47,7 +47,7 @@ class Cost(unittest.TestCase):
         velto.press("Start")
         self.hide_card(velto)
         floor = self.start_floor()
-        time.sleep(4)  # the looks at the bar that follow a change
+        time.sleep(14)  # the looks at the bar that follow a change
 
         of_velto, of_floor = cost_a_second([[velto.pid], [floor.pid]], 10)
 

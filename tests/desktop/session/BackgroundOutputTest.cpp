@@ -121,7 +121,8 @@ TEST_F(BackgroundOutputTest, ItNeedsNoThread)
 
 TEST_F(BackgroundOutputTest, WhatWaitsForAReaderIsBoundedAndMadeOfWholeLines)
 {
-    const std::string line = std::string(99'999, 'x') + '\n';
+    std::string line(100'000, 'x');
+    line.back() = '\n';
     for (int i = 0; i < 100; ++i)
         stream << line << std::flush;
 

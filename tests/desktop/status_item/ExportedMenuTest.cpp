@@ -149,7 +149,7 @@ protected:
         world.runLoop.advance(1s);
     }
 
-    PomodoroTimer& timer() { return app->timer(); }
+    PomodoroTimer& timer() { return app->appDelegate().timerProvider(); }
 
     DBusMenuLayout layout()
     {
@@ -274,7 +274,7 @@ TEST_F(ExportedMenuTest, MarksTheMusicThatIsChosenAndOnlyNoneWhileItIsOff)
 {
     world.store.set("focusMusicPreset", Blob{'"', 'L', 'u', 's', 'h', '"'});
     launch();
-    EXPECT_EQ(app->settings().focusMusicPreset(), MusicPreset::lush);
+    EXPECT_EQ(app->appDelegate().settingsProvider().focusMusicPreset(), MusicPreset::lush);
     EXPECT_EQ(menu(), fresh);
 
     choose({"Focus Music", "Groove Salad"});
