@@ -44,8 +44,8 @@ std::vector<Dock> docks()
     return found;
 }
 
-/// With several screens, Qt takes all of each as usable, since the desktop has only one work area. So what a bar
-/// reserves is taken from the screen that the bar stands on.
+/// The desktop has only one work area, which Qt believes while there is one screen; it may do so for a while after
+/// another has come. So with several, what a bar reserves is taken from the screen that the bar stands on, and no more.
 QRectF usableArea(const QScreen& screen)
 {
     const QRect available = screen.availableGeometry();
@@ -57,7 +57,7 @@ QRectF usableArea(const QScreen& screen)
     for (const auto& dock : docks())
         if (const auto narrowed = free & dock.rest; pixels.contains(dock.middle) && !narrowed.isEmpty())
             free = narrowed;
-    return toPoints(free) & QRectF{available};
+    return QGuiApplication::screens().size() > 1 ? toPoints(free) : toPoints(free) & QRectF{available};
 }
 
 Screen describe(const QScreen& screen)
