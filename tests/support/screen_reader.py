@@ -37,7 +37,7 @@ class ScreenReader:
         except FileNotFoundError:
             return []
 
-    def hear(self, *sentences):
+    def hear(self, *sentences, timeout=30):
         """Waits for sentences that contain these, one after the other, since the last that was waited for."""
         for sentence in sentences:
             def spoken(wanted=sentence):
@@ -47,6 +47,6 @@ class ScreenReader:
                         return True
                 return False
             try:
-                wait_for(spoken, what=f"{sentence!r}")
+                wait_for(spoken, timeout, what=f"{sentence!r}")
             except AssertionError as error:
                 raise AssertionError(f"{error}; said: {self.said()[self._read:]}") from None
