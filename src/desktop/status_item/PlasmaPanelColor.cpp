@@ -20,7 +20,7 @@ QVariant valueIn(const QString& path, const char* key)
 QVariant setting(const QString& file, const char* key)
 {
     for (const auto& path : QStandardPaths::locateAll(QStandardPaths::GenericConfigLocation, file))
-        if (const auto value = valueIn(path, key); value.isValid())
+        if (auto value = valueIn(path, key); value.isValid())
             return value;
     return {};
 }
