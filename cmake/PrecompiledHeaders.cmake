@@ -12,8 +12,8 @@ function(add_precompiled_headers name)
 endfunction()
 
 add_precompiled_headers(velto_qt_headers LINK Qt6::Widgets
-    HEADERS <QApplication> <QPainter> <QTimer> <QWidget> <functional> <memory> <optional> <string> <vector>)
+    HEADERS <QPainter> <QTimer> <QWidget> <functional> <memory> <optional> <string> <vector>)
 if(VELTO_TESTS)
     add_precompiled_headers(velto_test_headers LINK Qt6::Widgets GTest::gtest
-        HEADERS <QApplication> <gtest/gtest.h> <algorithm> <functional> <string> <vector>)
+        HEADERS <QWidget> <gtest/gtest.h> <algorithm> <functional> <string> <vector>)
 endif()
