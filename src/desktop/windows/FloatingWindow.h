@@ -24,6 +24,7 @@ public:
     FloatingWindow(
         std::unique_ptr<QWidget> content, std::function<void()> dismiss, Focus focus, QWidget* parent = nullptr);
 
+    /// In points of the whole desktop. Where the compositor alone knows the bar, the window hangs under that.
     void place(const QRect& area);
     /// Does not take the keyboard.
     void orderFront();

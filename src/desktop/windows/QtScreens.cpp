@@ -48,16 +48,15 @@ std::vector<Dock> docks()
 /// another has come. So with several, what a bar reserves is taken from the screen that the bar stands on, and no more.
 QRectF usableArea(const QScreen& screen)
 {
-    const QRect available = screen.availableGeometry();
     if (!x11::connection())
-        return available;
+        return screen.availableGeometry();
 
     const QRect pixels = toPixels(screen.geometry(), screen);
     QRect free = pixels;
     for (const auto& dock : docks())
         if (const auto narrowed = free & dock.rest; pixels.contains(dock.middle) && !narrowed.isEmpty())
             free = narrowed;
-    return QGuiApplication::screens().size() > 1 ? toPoints(free) : toPoints(free) & QRectF{available};
+    return QGuiApplication::screens().size() > 1 ? toPoints(free) : toPoints(free) & QRectF{screen.availableGeometry()};
 }
 
 Screen describe(const QScreen& screen)
