@@ -4,6 +4,7 @@
 #include "style/Drawing.h"
 
 #include <QFile>
+#include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmapCache>
@@ -42,7 +43,7 @@ QPixmap render(const QString& name, const QSize& pixels, const QColor& color)
 
 class SymbolIconEngine final : public QIconEngine {
 public:
-    SymbolIconEngine(QString name, QColor color) : m_name(std::move(name)), m_color(color) { }
+    explicit SymbolIconEngine(QString name) : m_name(std::move(name)) { }
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
     {
@@ -52,18 +53,17 @@ public:
 
     QPixmap pixmap(const QSize& pixels, QIcon::Mode mode, QIcon::State) override
     {
-        auto color = mode == QIcon::Selected ? QColor(Qt::white) : m_color;
+        auto color = mode == QIcon::Selected ? QColor(Qt::white) : QGuiApplication::palette().color(QPalette::Text);
         if (mode == QIcon::Disabled)
             color.setAlphaF(static_cast<float>(color.alphaF() * disabledOpacity));
         return render(m_name, pixels, color);
     }
 
     bool isNull() override { return false; }
-    QIconEngine* clone() const override { return new SymbolIconEngine(m_name, m_color); }
+    QIconEngine* clone() const override { return new SymbolIconEngine(m_name); }
 
 private:
     QString m_name;
-    QColor m_color;
 };
 
 } // namespace
@@ -76,9 +76,9 @@ QPixmap symbolPixmap(const QString& name, double points, const QColor& color, do
     return pixmap;
 }
 
-QIcon symbolIcon(const QString& name, const QColor& color)
+QIcon symbolIcon(const QString& name)
 {
-    return QIcon(new SymbolIconEngine(name, color));
+    return QIcon(new SymbolIconEngine(name));
 }
 
 } // namespace velto

@@ -14,8 +14,8 @@ namespace velto {
 [[nodiscard]] QPixmap symbolPixmap(
     const QString& name, double points, const QColor& color, double devicePixelRatio = 1);
 
-/// The same for buttons and menus: any size, pale while disabled, white while selected. Draws nothing when there is no
-/// symbol of that name.
-[[nodiscard]] QIcon symbolIcon(const QString& name, const QColor& color);
+/// The same for menus: any size, in the colour of text, pale while disabled, white while selected. Draws nothing when
+/// there is no symbol of that name.
+[[nodiscard]] QIcon symbolIcon(const QString& name);
 
 } // namespace velto

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "style/Symbols.h"
 
+#include "style/Colors.h"
+
+#include <QApplication>
 #include <QColor>
 #include <QImage>
 
@@ -60,13 +63,14 @@ TEST_P(SymbolTest, HasOnePixelForEachDevicePixel)
 
 TEST_P(SymbolTest, IconIsDrawnAtTheSizeOfTheScreenAndPaleWhileDisabled)
 {
-    const auto icon = symbolIcon(GetParam(), Qt::black);
+    const auto icon = symbolIcon(GetParam());
 
     const auto normal = icon.pixmap(QSize(20, 20), 2, QIcon::Normal);
     const auto disabled = icon.pixmap(QSize(20, 20), 2, QIcon::Disabled);
 
     EXPECT_EQ(normal.size(), QSize(40, 40));
-    EXPECT_EQ(normal.toImage(), symbolPixmap(GetParam(), 20, Qt::black, 2).toImage());
+    EXPECT_EQ(
+        normal.toImage(), symbolPixmap(GetParam(), 20, QApplication::palette().color(QPalette::Text), 2).toImage());
     EXPECT_NEAR(coverage(disabled.toImage()), 0.4 * coverage(normal.toImage()), 0.01);
 }
 
@@ -99,10 +103,22 @@ TEST(SymbolsTest, TheArrowBackHasASolidHeadAlsoWhenSmall)
     EXPECT_GE(solid, 10);
 }
 
+TEST(SymbolsTest, AnIconFollowsTheThemeWhileItIsShown)
+{
+    const auto before = QApplication::palette();
+    const auto icon = symbolIcon("gearshape");
+    for (const auto theme : {Theme::light, Theme::dark}) {
+        QApplication::setPalette(paletteFor(theme));
+        EXPECT_EQ(icon.pixmap(QSize(20, 20), 1, QIcon::Normal).toImage(),
+            symbolPixmap("gearshape", 20, color(ColorName::label, theme)).toImage());
+    }
+    QApplication::setPalette(before);
+}
+
 TEST(SymbolsTest, AnUnknownNameIsANullPixmapAndAnIconThatDrawsNothing)
 {
     EXPECT_TRUE(symbolPixmap("no.such.symbol", 16, Qt::black).isNull());
-    EXPECT_TRUE(symbolIcon("no.such.symbol", Qt::black).pixmap(16, 16).isNull());
+    EXPECT_TRUE(symbolIcon("no.such.symbol").pixmap(16, 16).isNull());
 }
 
 } // namespace

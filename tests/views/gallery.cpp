@@ -189,8 +189,6 @@ private:
     void menu()
     {
         CardMenu menu(false);
-        const auto symbol
-            = [&menu](const char* name) { return symbolIcon(name, menu.palette().color(QPalette::Text)); };
         menu.addAction("Start Focus");
         menu.addAction("Reset Focus")->setEnabled(false);
         menu.addSeparator();
@@ -206,8 +204,8 @@ private:
         automatic->setCheckable(true);
         automatic->setChecked(true);
         menu.addSeparator();
-        menu.addAction(symbol("gearshape"), "Settings…");
-        menu.addAction(symbol("questionmark.circle"), "How to Use");
+        menu.addAction(symbolIcon("gearshape"), "Settings…");
+        menu.addAction(symbolIcon("questionmark.circle"), "How to Use");
         menu.addSeparator();
         menu.addAction("Quit");
         menu.popup({});

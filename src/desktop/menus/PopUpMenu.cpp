@@ -112,8 +112,7 @@ void PopUpMenu::fill(CardMenu& shown, const Menu& menu)
                 action, &QAction::triggered, this, [this, item] { chosen(*item); }, Qt::QueuedConnection);
         }
         if (item->symbol)
-            action->setIcon(
-                symbolIcon(QString::fromStdString(item->symbol->name), shown.palette().color(QPalette::Text)));
+            action->setIcon(symbolIcon(QString::fromStdString(item->symbol->name)));
         apply(*action, *item);
         m_entries.push_back({item, action});
     }
