@@ -9,7 +9,7 @@ gi.require_version("GdkPixbuf", "2.0")
 from gi.repository import GdkPixbuf  # noqa: E402
 
 from framebuffer import Picture  # noqa: E402
-from root import PROJECT, Root, Session  # noqa: E402
+from root import COMMON, PROJECT, Root, Session  # noqa: E402
 from waiting import wait_for  # noqa: E402
 
 _HERE = os.path.join(PROJECT, "tests", "desktops")
@@ -32,15 +32,16 @@ class Desktop:
     LEAST_CONTRAST = 4.5  # of the time in its bar
     THEMES = {"": None}  # by name: whether the bar is dark then, where that is known
 
-    def __init__(self, folder, name):
-        self._folder, self._name = folder, name
-        self._root = Root(os.path.join(folder, self.ROOT or name), self.PACKAGES)
+    def __init__(self, folder, name, suite, build):
+        self._folder, self._name, self._build = folder, name, build
+        self._root = Root(os.path.join(folder, self.ROOT or name), suite, [*COMMON, *self.PACKAGES])
 
     def build(self):
         self._root.build()
 
     def __enter__(self):
-        self.session = Session(self._root, self.START, self.USER, os.path.join(self._folder, self._name + ".log"))
+        self.session = Session(self._root, self._build, self.START, self.USER,
+                               os.path.join(self._folder, self._name + ".log"))
         try:
             self.prepare()
             self.session.start("python3", os.path.join(_HERE, "editor.py"))

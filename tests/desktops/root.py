@@ -8,22 +8,19 @@ import time
 
 PROJECT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 
-_COMMON = """dbus-x11 python3-dbusmock python3-gi gir1.2-gtk-3.0 x11-utils xdotool iproute2 procps util-linux-extra
-    xwayland fonts-inter fonts-quicksand at-spi2-core libqt6widgets6 libqt6svg6 libqt6dbus6 qt6-qpa-plugins libplist3
-    libcanberra0 libgstreamer1.0-0 libsoup-3.0-0 libseccomp2""".split()
+COMMON = """dbus dbus-x11 python3-dbusmock python3-gi gir1.2-gtk-3.0 x11-utils xdotool iproute2 procps util-linux-extra
+    xwayland fonts-inter fonts-quicksand at-spi2-core libqt6widgets6 libqt6svg6 libqt6dbus6 qt6-qpa-plugins
+    libplist-utils libcanberra0 libgstreamer1.0-0 libsoup-3.0-0 libseccomp2""".split()
 
 _BUILD = """
 set -eu
-root=$1; shift
-if [ ! -d "$root/usr" ]; then
-    debootstrap --variant=minbase bookworm "$root" http://deb.debian.org/debian
-    rm -f "$root/etc/apt/sources.list"
-fi
-cp /etc/apt/sources.list.d/debian.sources "$root/etc/apt/sources.list.d/"
+root=$1 suite=$2; shift 2
+[ -d "$root/usr" ] || debootstrap --variant=minbase "$suite" "$root" http://deb.debian.org/debian
 cp /etc/apt/apt.conf.d/99* "$root/etc/apt/apt.conf.d/" 2>/dev/null || true
 cp /etc/resolv.conf /etc/hosts "$root/etc/"
 printf '#!/bin/sh\\nexit 101\\n' > "$root/usr/sbin/policy-rc.d"
 chmod +x "$root/usr/sbin/policy-rc.d"
+echo force-unsafe-io > "$root/etc/dpkg/dpkg.cfg.d/of-no-value" # nothing here outlives a crash
 mount -t proc proc "$root/proc"
 mount --rbind /dev "$root/dev"
 in_root="chroot $root env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive"
@@ -33,7 +30,7 @@ $in_root apt-get install -qq --no-install-recommends "$@"
 
 _ENTER = """
 set -eu
-root=$1 project=$2 user=$3
+root=$1 project=$2 build=$3 user=$4
 for folder in proc dev tmp run; do mkdir -p "$root/$folder"; done
 mount -t proc proc "$root/proc"
 mount --rbind /dev "$root/dev"
@@ -41,7 +38,18 @@ mount -t tmpfs -o mode=1777 tmpfs "$root/tmp"
 mount -t tmpfs -o mode=755 tmpfs "$root/run"
 mkdir -p "$root$project"
 mount --bind "$project" "$root$project"
-exec chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LANG=C.UTF-8 bash -c "$4" in "$user" "$5"
+mkdir -p "$build" "$project/build"
+mount --bind "$build" "$root$project/build"
+exec chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LANG=C.UTF-8 bash -c "$5" in "$user" "$6"
+"""
+
+_COMPILE = """
+set -eu
+export HOME=/root
+cd "$2"
+scripts/setup run
+cmake --preset release -DVELTO_TESTS=OFF
+cmake --build --preset release
 """
 
 _INIT = """
@@ -64,10 +72,10 @@ exec setpriv --reuid "$1" --regid "$1" --clear-groups dbus-run-session -- bash -
 
 
 class Root:
-    """`folder` is where it is built; `packages` come on top of those that velto needs."""
+    """`folder` is where it is built."""
 
-    def __init__(self, folder, packages):
-        self.folder, self._packages = folder, sorted({*_COMMON, *packages})
+    def __init__(self, folder, suite, packages):
+        self.folder, self._suite, self._packages = folder, suite, sorted({*packages})
 
     def build(self):
         """Does nothing when all of it is there."""
@@ -77,20 +85,29 @@ class Root:
             return
         os.makedirs(self.folder, exist_ok=True)
         subprocess.run(["unshare", "--mount", "--pid", "--fork", "bash", "-c", _BUILD, "build", self.folder,
-                        *self._packages], check=True)
+                        self._suite, *self._packages], check=True)
         with open(done, "w") as file:
             file.write(wanted)
+
+
+def build_velto(folder, suite):
+    """Builds it in a root of its own, and returns what stands there for build."""
+    root, build = Root(os.path.join(folder, "velto"), suite, ["ca-certificates"]), os.path.join(folder, "build")
+    root.build()
+    subprocess.run(["unshare", "--pid", "--fork", "--kill-child", "--mount", "bash", "-c", _ENTER, "enter",
+                    root.folder, PROJECT, build, "0", _COMPILE, PROJECT], stdin=subprocess.DEVNULL, check=True)
+    return build
 
 
 class Session:
     """A desktop that runs. `start` is what starts it: it leaves its environment in $XDG_RUNTIME_DIR/session when it is
     up, and stays. `user` is a user id."""
 
-    def __init__(self, root, start, user=0, log=os.devnull):
+    def __init__(self, root, build, start, user=0, log=os.devnull):
         self._user, self._log, self._inside = user, open(log, "w"), None
         self._process = subprocess.Popen(
             ["unshare", "--pid", "--fork", "--kill-child", "--net", "--ipc", "--uts", "--mount", "bash", "-c", _ENTER,
-             "enter", root.folder, PROJECT, str(user), _INIT, start],
+             "enter", root.folder, PROJECT, build, str(user), _INIT, start],
             stdin=subprocess.DEVNULL, stdout=self._log, stderr=subprocess.STDOUT)
         try:
             self._wait_for(self._up, "the desktop")
