@@ -6,7 +6,7 @@ from shell import Shell
 _DEVICES = """
 const {Clutter, GLib} = imports.gi;
 if (!global._pointer) {
-    const seat = Clutter.get_default_backend().get_default_seat();
+    const seat = (global.stage.context?.get_backend() ?? Clutter.get_default_backend()).get_default_seat();
     global._pointer = seat.create_virtual_device(Clutter.InputDeviceType.POINTER_DEVICE);
     global._keyboard = seat.create_virtual_device(Clutter.InputDeviceType.KEYBOARD_DEVICE);
 }
@@ -30,7 +30,7 @@ gnome-shell --headless --wayland --virtual-monitor 1280x800 --unsafe-mode &
 until ls $XDG_RUNTIME_DIR/.mutter-Xwaylandauth* && [ -S $XDG_RUNTIME_DIR/wayland-0 ]; do sleep 0.2; done >/dev/null 2>&1
 export WAYLAND_DISPLAY=wayland-0 DISPLAY=:0 XAUTHORITY=$(ls $XDG_RUNTIME_DIR/.mutter-Xwaylandauth*)
 until gdbus call --session --dest org.gnome.Shell --object-path /org/gnome/Shell --method org.gnome.Shell.Eval \\
-    'imports.ui.main.layoutManager._startingUp' | grep "'false'"
+    'Main.layoutManager._startingUp' | grep "'false'"
 do sleep 0.2; done >/dev/null 2>&1
 env | grep -E '^(HOME|XDG_|DBUS|PATH|LANG|USER|LOGNAME|WAYLAND_|DISPLAY|XAUTHORITY)' > $XDG_RUNTIME_DIR/session
 wait
@@ -41,7 +41,7 @@ wait
         super().__init__(*arguments)
 
     def prepare(self):
-        self.evaluate("imports.ui.main.overview.hide()")
+        self.evaluate("Main.overview.hide()")
 
     def evaluate(self, script):
         return super().evaluate(_DEVICES + script)
@@ -89,7 +89,7 @@ class GnomeAppIndicator(Gnome):
     def item_place(self):
         x, y, width, height = self.evaluate("""
             (() => {
-                const area = imports.ui.main.panel.statusArea;
+                const area = Main.panel.statusArea;
                 const item = area[Object.keys(area).find(name => name.startsWith("appindicator-"))];
                 const [x, y] = item.get_transformed_position();
                 return [x, y, item.width, item.height];
