@@ -55,6 +55,7 @@ class WholePhase(MusicStory):
 
     def assert_counts_every_second(self, seconds):
         """From the start of a phase of one minute."""
+        wait_for(lambda: len(self.desktop.announcements) >= seconds, timeout=3, what="what the item has announced")
         seen = self.desktop.announcements[:seconds]
         self.assertEqual([label for _, _, label in seen], [f"00:{59 - second:02}" for second in range(seconds)])
         self.assertLess(max(abs(when - seen[0][0] - second) for second, (when, _, _) in enumerate(seen)), 0.25)
