@@ -20,28 +20,34 @@ def with_children(pid):
 
 
 def cost(pids):
-    """CPU time in seconds and the number of wake-ups so far, of all threads of these processes."""
-    seconds = wake_ups = 0
+    """CPU time in seconds and the number of wake-ups so far, of each thread of these processes."""
+    costs = {}
     for pid in pids:
         for task in glob.glob(f"/proc/{pid}/task/*"):
             try:
                 with open(f"{task}/schedstat", encoding="ascii") as file:
-                    seconds += int(file.read().split()[0]) / 1e9
+                    seconds = int(file.read().split()[0]) / 1e9
                 with open(f"{task}/status", encoding="ascii") as file:
-                    wake_ups += int(re.search(r"\nvoluntary_ctxt_switches:\s+(\d+)", file.read())[1])
+                    wake_ups = int(re.search(r"\nvoluntary_ctxt_switches:\s+(\d+)", file.read())[1])
             except OSError:
-                pass  # the thread has ended
-    return seconds, wake_ups
+                continue  # the thread has ended
+            costs[task] = seconds, wake_ups
+    return costs
 
 
 def cost_a_second(groups, duration):
-    """The share of a core and the wake-ups a second of each group of processes, over `duration` seconds."""
+    """The share of a core and the wake-ups a second of each group of processes, over `duration` seconds. Threads that
+    end in that time do not count."""
     begin = time.monotonic()
     before = [cost(pids) for pids in groups]
     time.sleep(duration)
     duration = time.monotonic() - begin
-    return [tuple((now - then) / duration for now, then in zip(cost(pids), start))
-            for pids, start in zip(groups, before)]
+    result = []
+    for pids, start in zip(groups, before):
+        now = cost(pids)
+        result.append(tuple(sum(now[task][kind] - start.get(task, (0, 0))[kind] for task in now) / duration
+                            for kind in range(2)))
+    return result
 
 
 def memory(pids):
