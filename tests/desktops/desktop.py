@@ -100,6 +100,10 @@ class Desktop:
         self.picture(path)
         return path
 
+    def text_in_bar(self):
+        """What the bar has been told, where it does not say what it shows."""
+        return self.velto("label")
+
     def look_at_item(self, what):
         """The middle of the time in its bar, as it is on the screen; `what` is for the name of that picture."""
         seen = GdkPixbuf.Pixbuf.new_from_file(self.save_picture(what))

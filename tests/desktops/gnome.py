@@ -86,6 +86,14 @@ class GnomeAppIndicator(Gnome):
     HAS_STRIP = False
     TOGGLING_BUTTON = 2
 
+    def text_in_bar(self):
+        return self.evaluate("""
+            (() => {
+                const area = Main.panel.statusArea;
+                const item = area[Object.keys(area).find(name => name.startsWith("appindicator-"))];
+                return item._label?.text ?? "";
+            })()""")
+
     def item_place(self):
         x, y, width, height = self.evaluate("""
             (() => {

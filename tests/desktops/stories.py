@@ -46,7 +46,7 @@ class Story(unittest.TestCase):
 
 class Stories(Story):
     def test_the_time_is_seen(self):
-        self.assertEqual(desktop.velto("label"), "25:00")
+        wait_for(lambda: desktop.text_in_bar() == "25:00", what="the time in the bar")
         desktop.save_picture("launch")
 
     def test_the_time_can_be_read_with_each_theme_from_the_start_and_after_a_change(self):

@@ -234,6 +234,9 @@ void DesktopStatusItem::hostChanged()
         m_lastAnchor.reset();
     }
     m_traits = recognizeStatusHost(*m_onBus->hosts.host());
+    // AppIndicator overlooks the text that an item comes with, from version 59 on, and looks again when it comes again.
+    if (m_traits.shape == TimeShape::label && m_traits.leftClickOpensMenu)
+        QTimer::singleShot(1s, &m_onBus->item, &StatusNotifierItem::registerWithWatcher);
     m_barColor.lookNow();
     m_onBus->menu.setLeadingItem(m_traits.leftClickOpensMenu ? panelItem() : nullptr);
     drawPicture();
