@@ -6,7 +6,7 @@ import time
 import unittest
 
 from desktop import VirtualDesktop, wait_for
-from processes import cost_a_second, memory
+from processes import LOOKS_AT_BAR, cost_a_second, memory
 
 VELTO, FLOOR = os.environ["VELTO_BIN"], os.environ["FLOOR_BIN"]
 
@@ -47,7 +47,7 @@ class Cost(unittest.TestCase):
         velto.press("Start")
         self.hide_card(velto)
         floor = self.start_floor()
-        time.sleep(14)  # the looks at the bar that follow a change
+        time.sleep(LOOKS_AT_BAR)
 
         of_velto, of_floor = cost_a_second([[velto.pid], [floor.pid]], 10)
 

@@ -5,6 +5,8 @@ import os
 import re
 import time
 
+LOOKS_AT_BAR = 14  # seconds in which velto looks for the bar's colour, after a start or a change of its windows
+
 
 def with_children(pid):
     """The process and everything it has started that still runs."""

@@ -87,19 +87,16 @@ class GnomeAppIndicator(Gnome):
     TOGGLING_BUTTON = 2
 
     def text_in_bar(self):
-        return self.evaluate("""
-            (() => {
-                const area = Main.panel.statusArea;
-                const item = area[Object.keys(area).find(name => name.startsWith("appindicator-"))];
-                return item._label?.text ?? "";
-            })()""")
+        return self._ask_item("item._label?.text ?? ''")
 
     def item_place(self):
-        x, y, width, height = self.evaluate("""
-            (() => {
+        x, y, width, height = self._ask_item("[...item.get_transformed_position(), item.width, item.height]")
+        return round(x + width / 2), round(y + height / 2)
+
+    def _ask_item(self, question):
+        return self.evaluate(f"""
+            (() => {{
                 const area = Main.panel.statusArea;
                 const item = area[Object.keys(area).find(name => name.startsWith("appindicator-"))];
-                const [x, y] = item.get_transformed_position();
-                return [x, y, item.width, item.height];
-            })()""")
-        return round(x + width / 2), round(y + height / 2)
+                return {question};
+            }})()""")
