@@ -6,7 +6,8 @@ import threading
 
 
 def time_queued(pids):
-    """For how long, in seconds, the threads of these processes were ready to go on but had no processor."""
+    """For how long, in seconds, the threads of these processes were ready to go on but had no processor, or others had
+    the processors of a virtual machine."""
     nanoseconds = 0
     for pid in pids:
         for path in glob.glob(f"/proc/{pid}/task/*/schedstat"):
@@ -15,7 +16,22 @@ def time_queued(pids):
                     nanoseconds += int(file.read().split()[1])
             except OSError:
                 pass  # the thread has ended
-    return nanoseconds / 1e9
+    return nanoseconds / 1e9 + _time_stolen()
+
+
+def _time_stolen():
+    with open("/proc/stat", encoding="ascii") as file:
+        return int(file.readline().split()[8]) / os.sysconf("SC_CLK_TCK")
+
+
+def time_worked(pid):
+    """How much of a processor the process has used so far, in seconds. 0 when it has ended."""
+    try:
+        with open(f"/proc/{pid}/stat", encoding="ascii") as file:
+            ticks = file.read().rpartition(")")[2].split()[11:13]
+    except OSError:
+        return 0
+    return sum(map(int, ticks)) / os.sysconf("SC_CLK_TCK")
 
 
 class Hindrance:

@@ -6,7 +6,7 @@ import threading
 import time
 from bisect import bisect
 
-from machine import time_queued
+from machine import time_queued, time_worked
 
 _SIGNAL = re.compile(r"signal time=(\S+) ")
 _LABEL = re.compile(r'   string "(\d+):(\d\d)"')
@@ -21,11 +21,11 @@ class Countdown:
         self._desktop, self._speed = desktop, speed
         self.heard, self.phases = [], 0
         self._breaks = []  # (from, to) on the wall clock: whatever was done then may have stopped the countdown
-        self._queued = []  # (when on the wall clock, for how long programs had waited for a processor)
+        self._samples = []  # (when on the wall clock, how long programs had waited for a processor, and velto worked)
 
     def listen(self):
         """To the session bus there is now, until it goes."""
-        process = subprocess.Popen(
+        self._listener = process = subprocess.Popen(
             ["dbus-monitor", "--session", "type='signal',interface='org.kde.StatusNotifierItem',member='XAyatanaNewLabel'"],
             env=self._desktop.environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True)
         threading.Thread(target=self._read, args=(process,), daemon=True).start()
@@ -50,18 +50,21 @@ class Countdown:
         """What has been done from `begin` to now may have stopped or changed the countdown."""
         self._breaks.append((begin, time.time() + 0.1))
 
-    def watch(self, pids):
-        """Notes how much a busy machine holds up these processes, until the end of this one."""
+    def watch(self, velto, others):
+        """Notes how much a busy machine holds up these processes, and how much velto works, until the end of this
+        process."""
         def sample():
             while True:
-                self._queued.append((time.time(), time_queued(pids())))
+                queued = time_queued([velto, self._listener.pid, *others()])
+                self._samples.append((time.time(), queued, time_worked(velto)))
                 time.sleep(_MOMENT / 5)
         threading.Thread(target=sample, daemon=True).start()
 
     def lateness(self):
         """How late each second came that continues the one before, on the wall clock: (without the time for which a
-        processor was missing, with it, when)."""
-        heard, breaks, queued = list(self.heard), sorted(self._breaks), list(self._queued)
+        processor was missing, with it, when, how much velto worked in the half second before it was due and until
+        then)."""
+        heard, breaks, samples = list(self.heard), sorted(self._breaks), list(self._samples)
         result, base, at = [], None, 0
         for (before, more), (when, left) in zip(heard, heard[1:]):
             while at < len(breaks) and breaks[at][1] < before:
@@ -75,7 +78,9 @@ class Countdown:
             due = base - left / self._speed
             late = when - due
             base = min(base, base + late)  # the earliest was in time
-            samples = [bisect(queued, moment, key=lambda sample: sample[0]) for moment in (due - _MOMENT, when)]
-            first, last = (queued[min(sample, len(queued) - 1)][1] for sample in samples)
-            result.append((late - max(0, last - first), late, when))  # less when a thread has ended
+            (_, queued, worked), (_, queued_then, worked_then) = (
+                samples[min(bisect(samples, moment, key=lambda sample: sample[0]), len(samples) - 1)]
+                for moment in (due - _MOMENT, when))
+            # less when a thread has ended
+            result.append((late - max(0, queued_then - queued), late, when, worked_then - worked))
         return result
