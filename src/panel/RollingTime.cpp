@@ -5,9 +5,11 @@
 #include "style/TextStyle.h"
 
 #include <QLinearGradient>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 namespace velto {
 
@@ -21,14 +23,14 @@ constexpr double rollDistance = 0.8;
 /// The part of the view next to its upper and lower edge where digits that roll fade.
 constexpr double fadingEdge = 10;
 
-/// For a painter whose origin is the middle of the view.
-QBrush fadingAtTheEdges(const QColor& color)
+/// The card's colour at the upper and lower edge of the view, and nothing between them.
+QBrush fadeToCard(const QColor& card)
 {
-    auto nothing = color;
+    auto nothing = card;
     nothing.setAlpha(0);
-    QLinearGradient gradient(0, -viewHeight / 2.0, 0, viewHeight / 2.0);
+    QLinearGradient gradient(0, 0, 0, viewHeight);
     gradient.setStops(
-        {{0, nothing}, {fadingEdge / viewHeight, color}, {1 - fadingEdge / viewHeight, color}, {1, nothing}});
+        {{0, card}, {fadingEdge / viewHeight, nothing}, {1 - fadingEdge / viewHeight, nothing}, {1, card}});
     return gradient;
 }
 
@@ -37,6 +39,7 @@ QBrush fadingAtTheEdges(const QColor& color)
 RollingTime::RollingTime(int width) : m_glyphs(clockFont(m_fontSize), gap)
 {
     setFixedSize(width, viewHeight);
+    setAttribute(Qt::WA_OpaquePaintEvent); // Nothing behind it is drawn again for a frame.
     onFontChange(*this, [this] {
         m_glyphs = ClockGlyphs(clockFont(m_fontSize), gap);
         update();
@@ -86,20 +89,31 @@ std::vector<RollingTime::Glyph> RollingTime::glyphs() const
     return result;
 }
 
-void RollingTime::paintEvent(QPaintEvent*)
+void RollingTime::paintEvent(QPaintEvent* event)
 {
+    const auto label = color(ColorName::label, *this);
+    const auto card = color(ColorName::windowBackground, *this);
     QPainter painter(this);
+    painter.fillRect(event->rect(), card);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(width() / 2.0, height() / 2.0);
     painter.scale(scale(), scale());
     painter.setPen(Qt::NoPen);
-    const auto resting = color(ColorName::label, *this);
-    const auto rolling = fadingAtTheEdges(resting);
+    const auto exposed = painter.worldTransform().inverted().mapRect(QRectF(event->rect()));
     for (const auto& glyph : glyphs()) {
-        painter.setBrush(glyph.center.y() == 0 ? QBrush(resting) : rolling);
-        painter.setOpacity(glyph.opacity);
-        painter.drawPath(m_glyphs.outline(glyph.character).translated(glyph.center));
+        const auto& outline = m_glyphs.outline(glyph.character);
+        if (!outline.boundingRect().translated(glyph.center).intersects(exposed))
+            continue;
+        // An opaque colour, since Qt fills a translucent one with several threads, which cost more than the filling.
+        painter.setBrush(mixed(card, label, glyph.opacity));
+        painter.drawPath(outline.translated(glyph.center));
     }
+    if (m_roll.value() == 1)
+        return;
+    painter.resetTransform();
+    const auto fade = fadeToCard(card);
+    for (const double top : {0.0, viewHeight - fadingEdge})
+        painter.fillRect(QRectF(0, top, width(), fadingEdge), fade);
 }
 
 double RollingTime::scale() const
@@ -139,6 +153,13 @@ std::vector<double> RollingTime::middlesOf(const QString& text) const
 
 void RollingTime::redrawRolling()
 {
+    // Where the motion is slow, most of its frames move the digits by less than can be seen.
+    constexpr double seen = 0.25;
+    const double way = std::abs(m_roll.value() - m_redrawn) * rollDistance * m_fontSize;
+    if (m_roll.value() < 1 && way < seen)
+        return;
+    m_redrawn = m_roll.value();
+
     const auto middles = middlesOf(m_text);
     const auto previous = middlesOf(m_previous);
     for (std::size_t i = 0; i < previous.size(); ++i) {

@@ -52,6 +52,7 @@ private:
     QString m_text;
     QString m_previous; ///< As long as `m_text`, or empty when nothing rolls.
     double m_fontSize = 64;
+    double m_redrawn = 1; ///< How far the digits had rolled when they were last drawn.
     ClockGlyphs m_glyphs;
     Motion m_roll{QEasingCurve::InOutCubic, this};
 };

@@ -7,6 +7,13 @@
 
 namespace velto {
 
+namespace {
+
+/// How far a corner reaches along the edges, in radii.
+constexpr double cornerReach = 1.528665;
+
+} // namespace
+
 QPainterPath continuousRoundedRect(const QRectF& rect, double radius)
 {
     // The exponent follows from the shared diagonal point.
@@ -39,6 +46,12 @@ QPainterPath continuousRoundedRect(const QRectF& rect, double radius)
     corner({rect.left() + reach, rect.bottom() - reach}, -1, 1, false);
     path.closeSubpath();
     return path;
+}
+
+bool isBetweenCorners(const QRegion& region, const QRectF& rect, double radius)
+{
+    const auto between = rect.adjusted(radius * cornerReach, 1, -radius * cornerReach, -1);
+    return std::ranges::all_of(region, [&](const QRectF& part) { return between.contains(part); });
 }
 
 } // namespace velto

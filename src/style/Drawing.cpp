@@ -50,9 +50,7 @@ void drawCard(QWidget& widget, const QRegion& exposed, double radius, ColorName 
     const QRectF rect = widget.rect();
     const auto background = color(ColorName::windowBackground, widget);
     QPainter painter(&widget);
-    // Between the corners there are no curves to compute, which most frames of a motion spares.
-    const auto plain = rect.adjusted(cornerReach * radius, 1, -cornerReach * radius, -1);
-    if (std::ranges::all_of(exposed, [&](const QRectF& part) { return plain.contains(part); })) {
+    if (isBetweenCorners(exposed, rect, radius)) {
         painter.fillRect(exposed.boundingRect(), background);
         return;
     }

@@ -1,13 +1,51 @@
 // SPDX-License-Identifier: MIT
 #include "style/Motion.h"
 
+#include <QAnimationDriver>
 #include <QApplication>
+#include <QBasicTimer>
+#include <QPointer>
 #include <QWidget>
 
 namespace velto {
 
+namespace {
+
+/// Fifty frames a second, which the eye takes for motion. Qt would draw 62, in step with no screen either.
+class FrameClock final : public QAnimationDriver {
+public:
+    using QAnimationDriver::QAnimationDriver;
+
+protected:
+    void start() override
+    {
+        QAnimationDriver::start();
+        m_timer.start(20, Qt::PreciseTimer, this);
+    }
+
+    void stop() override
+    {
+        m_timer.stop();
+        QAnimationDriver::stop();
+    }
+
+    void timerEvent(QTimerEvent*) override { advance(); }
+
+private:
+    QBasicTimer m_timer;
+};
+
+void installFrameClock()
+{
+    static const QPointer clock = new FrameClock(qApp);
+    clock->install();
+}
+
+} // namespace
+
 Motion::Motion(QEasingCurve::Type curve, QObject* parent) : QVariantAnimation(parent)
 {
+    installFrameClock();
     setDuration(usualDuration);
     setEasingCurve(curve);
     setStartValue(0.0);

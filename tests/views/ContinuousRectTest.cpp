@@ -44,6 +44,18 @@ TEST(ContinuousRectTest, ALargeRadiusIsLimitedByTheShorterSide)
     EXPECT_EQ(continuousRoundedRect({10, 20, 40, 12}, 0).boundingRect(), QRectF(10, 20, 40, 12));
 }
 
+TEST(ContinuousRectTest, TheShapeIsARectangleBetweenItsCorners)
+{
+    const QRectF rect(0, 0, 360, 420);
+    const auto path = continuousRoundedRect(rect, 18);
+
+    EXPECT_TRUE(isBetweenCorners(QRect(28, 1, 304, 418), rect, 18));
+    EXPECT_TRUE(path.contains(QRectF(28, 1, 304, 418)));
+    for (const QRect part :
+        {QRect(27, 1, 10, 10), QRect(28, 0, 10, 10), QRect(323, 200, 10, 10), QRect(0, 0, 360, 420)})
+        EXPECT_FALSE(isBetweenCorners(QRegion(100, 100, 10, 10) + part, rect, 18)) << part.x();
+}
+
 } // namespace
 
 } // namespace velto

@@ -276,8 +276,15 @@ TEST_F(PanelMotionTest, WhatDidNotChangeIsNotPainted)
     EXPECT_EQ(paints.counts[button("Reset")], 0);
     EXPECT_EQ(paints.counts[label("velto")], 0);
 
-    // A tick paints the time and the ring, and neither the title nor the buttons nor the lines below.
+    // The digits roll over what lies behind them.
     tick(1);
+    moveTo(100);
+    ASSERT_TRUE(settle("Pause"));
+    EXPECT_GT(paints.counts[&child<RollingTime>()], 0);
+    EXPECT_EQ(paints.counts[&child<CircularProgressView>()], 0);
+
+    // A tick paints the time and the ring, and neither the title nor the buttons nor the lines below.
+    moveTo(Motion::usualDuration);
     ASSERT_TRUE(settle("Pause"));
     EXPECT_GT(paints.counts[&child<CircularProgressView>()], 0);
     EXPECT_GT(paints.counts[&child<RollingTime>()], 0);

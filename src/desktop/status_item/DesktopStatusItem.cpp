@@ -173,6 +173,7 @@ void DesktopStatusItem::setFont(double points)
     m_font = QGuiApplication::font();
     m_font.setPixelSize(static_cast<int>(std::lround(points * textScale(m_font))));
     m_font.setWeight(QFont::DemiBold);
+    m_glyphs.reset();
     if (m_strip)
         m_strip->setTextFont(m_font);
     drawPicture();
@@ -234,6 +235,7 @@ void DesktopStatusItem::hostChanged()
         m_lastAnchor.reset();
     }
     m_traits = recognizeStatusHost(*m_onBus->hosts.host());
+    m_glyphs.reset();
     // AppIndicator overlooks the text that an item comes with, from version 59 on, and looks again when it comes again.
     if (m_traits.shape == TimeShape::label && m_traits.leftClickOpensMenu)
         QTimer::singleShot(1s, &m_onBus->item, &StatusNotifierItem::registerWithWatcher);
@@ -270,10 +272,14 @@ void DesktopStatusItem::drawPicture()
         m_onBus->item.setPictures({timerStatusPicture(timerSide, ink)});
         break;
     case TimeShape::widePicture:
-        m_onBus->item.setPictures({wideStatusPicture(m_title, m_font, wideHeight, ink)});
+        if (!m_glyphs)
+            m_glyphs = wideStatusGlyphs(m_font);
+        m_onBus->item.setPictures({wideStatusPicture(m_title, *m_glyphs, wideHeight, ink)});
         break;
     case TimeShape::squarePicture:
-        m_onBus->item.setPictures(squareStatusPictures(m_title, m_font, ink));
+        if (!m_glyphs)
+            m_glyphs = squareStatusGlyphs(m_font);
+        m_onBus->item.setPictures(squareStatusPictures(m_title, *m_glyphs, ink));
         break;
     }
 }

@@ -6,6 +6,7 @@
 #include "desktop/status_item/StatusHost.h"
 #include "platform/Application.h"
 #include "platform/StatusItem.h"
+#include "style/ClockGlyphs.h"
 
 #include <QFont>
 #include <QObject>
@@ -84,6 +85,7 @@ private:
     QString m_title;
     QString m_toolTip;
     QFont m_font;
+    std::optional<ClockGlyphs> m_glyphs; ///< Of `m_font`, for the shape that the host shows.
     bool m_appearsDisabled = false;
     std::optional<QRect> m_lastAnchor; ///< In Qt's coordinates.
 };

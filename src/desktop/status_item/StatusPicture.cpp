@@ -78,9 +78,20 @@ QColor statusPictureInk(const QColor& bar, bool appearsDisabled)
     return ink;
 }
 
-QImage wideStatusPicture(const QString& text, const QFont& font, int height, const QColor& ink)
+ClockGlyphs wideStatusGlyphs(const QFont& font)
 {
-    const ClockGlyphs glyphs(outlineFont(font, QFont::DemiBold));
+    return ClockGlyphs(outlineFont(font, QFont::DemiBold));
+}
+
+ClockGlyphs squareStatusGlyphs(const QFont& font)
+{
+    // Two digits leave room for some air between them, which thin strokes need.
+    constexpr double gap = 0.14;
+    return ClockGlyphs(outlineFont(font, QFont::Normal), gap);
+}
+
+QImage wideStatusPicture(const QString& text, const ClockGlyphs& glyphs, int height, const QColor& ink)
+{
     // As high as digits of a line of text that takes two thirds of the bar.
     const int digitHeight = height / 2 - height / 2 % 2;
     const int margin = height / 16;
@@ -90,11 +101,8 @@ QImage wideStatusPicture(const QString& text, const QFont& font, int height, con
     return image;
 }
 
-QList<QImage> squareStatusPictures(const QString& text, const QFont& font, const QColor& ink)
+QList<QImage> squareStatusPictures(const QString& text, const ClockGlyphs& glyphs, const QColor& ink)
 {
-    // Two digits leave room for some air between them, which thin strokes need.
-    constexpr double gap = 0.14;
-    const ClockGlyphs glyphs(outlineFont(font, QFont::Normal), gap);
     QList<QImage> pictures;
     for (const int side : {22, 24, 28, 32, 44, 48})
         pictures.append(squareStatusPicture(text, glyphs, side, ink));

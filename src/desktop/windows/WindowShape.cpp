@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QWidget>
 
@@ -33,7 +34,8 @@ bool WindowShape::eventFilter(QObject* /*watched*/, QEvent* event)
 {
     if (event->type() == QEvent::Resize)
         cut();
-    else if (event->type() == QEvent::Paint && !m_isComposited)
+    else if (event->type() == QEvent::Paint && !m_isComposited
+        && !isBetweenCorners(static_cast<QPaintEvent*>(event)->region(), m_window.rect(), m_cornerRadius))
         QPainter(&m_window).fillRect(m_window.rect(), color(m_edge, m_window));
     return false;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/status_item/StatusPicture.h"
 #include "desktop/status_item/DBusPicture.h"
+#include "style/ClockGlyphs.h"
 
 #include <gtest/gtest.h>
 
@@ -27,8 +28,14 @@ protected:
     }();
     QColor ink = statusPictureInk(Qt::black, false);
 
-    QImage wide(const char* text) { return wideStatusPicture(QString::fromLatin1(text), font, 48, ink); }
-    QList<QImage> squares(const char* text) { return squareStatusPictures(QString::fromLatin1(text), font, ink); }
+    QImage wide(const char* text)
+    {
+        return wideStatusPicture(QString::fromLatin1(text), wideStatusGlyphs(font), 48, ink);
+    }
+    QList<QImage> squares(const char* text)
+    {
+        return squareStatusPictures(QString::fromLatin1(text), squareStatusGlyphs(font), ink);
+    }
 
     /// The smallest rectangle that holds every pixel in the colour of the text.
     static QRect textBounds(const QImage& image)
