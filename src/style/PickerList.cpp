@@ -121,6 +121,12 @@ PickerList::PickerList(QComboBox& picker) : m_picker(picker)
     m_card->setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
     m_card->setAttribute(Qt::WA_TranslucentBackground);
     m_card->installEventFilter(this);
+    // A list that is higher than the screen has a scroll bar instead of Qt's arrows above and below it.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setVerticalScrollMode(ScrollPerPixel);
+    for (auto* arrow : m_card->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if (arrow != this)
+            arrow->setFixedHeight(0);
 }
 
 bool PickerList::eventFilter(QObject* watched, QEvent* event)
@@ -135,6 +141,7 @@ bool PickerList::eventFilter(QObject* watched, QEvent* event)
             // Newer versions of Qt leave the highlight where it was when the list was left.
             setCurrentIndex(model()->index(m_picker.currentIndex(), 0));
             placeCard();
+            scrollTo(currentIndex());
             PopUpCard::cut(*m_card, !m_picker.window()->mask().isEmpty());
         }
     }

@@ -15,6 +15,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QStyle>
 #include <QTest>
@@ -196,7 +197,7 @@ TEST_F(ControlsTest, TheListOfAPickerStaysOnTheScreenAndShowsAllThatFits)
     }
 }
 
-TEST_F(ControlsTest, AListThatIsTooLongIsAsHighAsTheScreenAndScrolls)
+TEST_F(ControlsTest, AListThatIsTooLongIsAsHighAsTheScreenAndHasAScrollBar)
 {
     for (int i = 0; i < 60; ++i)
         picker->addItem(QString::number(i));
@@ -206,6 +207,9 @@ TEST_F(ControlsTest, AListThatIsTooLongIsAsHighAsTheScreenAndScrolls)
     const auto* list = picker->view();
     EXPECT_TRUE(window.screen()->availableGeometry().contains(list->window()->geometry()));
     EXPECT_TRUE(list->viewport()->rect().contains(list->visualRect(list->currentIndex())));
+    EXPECT_TRUE(list->verticalScrollBar()->isVisible());
+    for (const auto* part : list->window()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        EXPECT_TRUE(part == list || part->isHidden() || part->height() == 0);
 }
 
 TEST_F(ControlsTest, TheListOfAPickerIsARoundCardInBothSchemes)
