@@ -157,7 +157,7 @@ void CircularProgressView::redrawArc()
 {
     // Of a long phase a second is less than a point, which needs no frames of its own.
     constexpr double seen = 0.25;
-    const double way = std::abs(drawnProgress() - m_redrawn) * std::numbers::pi * contentsRect().width();
+    const double way = std::abs(drawnProgress() - m_redrawn) * std::numbers::pi * (width() - lineWidth);
     if (way == 0 || (m_arcMotion.value() < 1 && way < seen))
         return;
     const double before = std::exchange(m_redrawn, drawnProgress());

@@ -42,6 +42,9 @@ RollingTime::RollingTime(int width) : m_glyphs(clockFont(m_fontSize), gap)
     setAttribute(Qt::WA_OpaquePaintEvent); // Nothing behind it is drawn again for a frame.
     onFontChange(*this, [this] {
         m_glyphs = ClockGlyphs(clockFont(m_fontSize), gap);
+        m_line = lineOf(m_line.text);
+        m_previous = lineOf(m_previous.text);
+        m_rolling = rect();
         update();
     });
     connect(&m_roll, &QVariantAnimation::valueChanged, this, &RollingTime::redrawRolling);
@@ -49,15 +52,16 @@ RollingTime::RollingTime(int width) : m_glyphs(clockFont(m_fontSize), gap)
 
 void RollingTime::setTime(const QString& text, double fontSize)
 {
-    if (text == m_text && fontSize == m_fontSize)
+    if (text == m_line.text && fontSize == m_fontSize)
         return;
-    const bool isSameShape = text.size() == m_text.size() && fontSize == m_fontSize;
-    m_previous = isSameShape ? m_text : QString();
-    m_text = text;
+    const bool isSameShape = text.size() == m_line.text.size() && fontSize == m_fontSize;
     if (fontSize != m_fontSize) {
         m_fontSize = fontSize;
         m_glyphs = ClockGlyphs(clockFont(fontSize), gap);
     }
+    m_previous = isSameShape ? m_line : Line();
+    m_line = lineOf(text);
+    m_rolling = rollingCells();
     if (isSameShape) {
         run(m_roll);
         redrawRolling();
@@ -73,17 +77,20 @@ std::vector<RollingTime::Glyph> RollingTime::glyphs() const
     std::vector<Glyph> result;
     const double rolled = m_roll.value();
     const double distance = rollDistance * m_fontSize;
-    const auto middles = middlesOf(m_text);
-    const auto previous = middlesOf(m_previous);
-    for (int i = 0; i < m_text.size(); ++i) {
+    for (int i = 0; i < m_line.text.size(); ++i) {
         const auto at = static_cast<std::size_t>(i);
-        if (rolled == 1 || m_previous.isEmpty()) {
-            result.push_back({m_text[i], {middles[at], 0}, 1});
-        } else if (m_text[i] == m_previous[i]) {
-            result.push_back({m_text[i], {previous[at] + (middles[at] - previous[at]) * rolled, 0}, 1});
+        const auto character = m_line.text[i];
+        const double middle = m_line.middles[at];
+        if (rolled == 1 || m_previous.text.isEmpty()) {
+            result.push_back({character, {middle, 0}, 1});
+            continue;
+        }
+        const double before = m_previous.middles[at];
+        if (character == m_previous.text[i]) {
+            result.push_back({character, {before + (middle - before) * rolled, 0}, 1});
         } else {
-            result.push_back({m_previous[i], {previous[at], -distance * rolled}, 1 - rolled});
-            result.push_back({m_text[i], {middles[at], distance * (1 - rolled)}, rolled});
+            result.push_back({m_previous.text[i], {before, -distance * rolled}, 1 - rolled});
+            result.push_back({character, {middle, distance * (1 - rolled)}, rolled});
         }
     }
     return result;
@@ -121,7 +128,7 @@ double RollingTime::scale() const
     return std::min(1.0, width() / std::max(textWidth(), 1.0));
 }
 
-std::vector<double> RollingTime::middlesOf(const QString& text) const
+RollingTime::Line RollingTime::lineOf(const QString& text) const
 {
     std::vector<double> middles;
     double x = 0;
@@ -131,7 +138,7 @@ std::vector<double> RollingTime::middlesOf(const QString& text) const
         x += cell;
     }
     if (middles.empty())
-        return middles;
+        return {};
 
     const auto halfInk = [this](QChar character) { return m_glyphs.outline(character).boundingRect().width() / 2; };
     // The last digit, which changes most, ends where the widest would, so that the others need not move for it. A "1"
@@ -148,7 +155,23 @@ std::vector<double> RollingTime::middlesOf(const QString& text) const
     const double right = middles.back() + halfInk(text.back());
     for (auto& middle : middles)
         middle -= (left + right) / 2;
-    return middles;
+    return {text, middles};
+}
+
+QRegion RollingTime::rollingCells() const
+{
+    QRegion cells;
+    for (std::size_t i = 0; i < m_previous.middles.size(); ++i) {
+        const auto character = m_line.text[static_cast<int>(i)];
+        const auto [left, right] = std::minmax(m_line.middles[i], m_previous.middles[i]);
+        if (character == m_previous.text[static_cast<int>(i)] && left == right)
+            continue;
+        const double reach = m_glyphs.cellWidth(character) / 2;
+        cells += QRectF(width() / 2.0 + (left - reach) * scale(), 0, (right - left + 2 * reach) * scale(), height())
+                     .toAlignedRect()
+                     .adjusted(-2, 0, 2, 0);
+    }
+    return cells;
 }
 
 void RollingTime::redrawRolling()
@@ -159,20 +182,7 @@ void RollingTime::redrawRolling()
     if (m_roll.value() < 1 && way < seen)
         return;
     m_redrawn = m_roll.value();
-
-    const auto middles = middlesOf(m_text);
-    const auto previous = middlesOf(m_previous);
-    for (std::size_t i = 0; i < previous.size(); ++i) {
-        const auto at = static_cast<int>(i);
-        if (m_text[at] == m_previous[at] && middles[i] == previous[i])
-            continue;
-        const double reach = m_glyphs.cellWidth(m_text[at]) / 2;
-        const QRectF cell(QPointF(std::min(middles[i], previous[i]) - reach, 0),
-            QPointF(std::max(middles[i], previous[i]) + reach, 0));
-        update(QRectF(width() / 2.0 + cell.left() * scale(), 0, cell.width() * scale(), height())
-                   .toAlignedRect()
-                   .adjusted(-2, 0, 2, 0));
-    }
+    update(m_rolling);
 }
 
 } // namespace velto

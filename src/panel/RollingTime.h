@@ -7,6 +7,7 @@
 #include "style/TextStyle.h"
 
 #include <QPointF>
+#include <QRegion>
 #include <QString>
 
 #include <vector>
@@ -33,24 +34,31 @@ public:
     explicit RollingTime(int width);
 
     void setTime(const QString& text, double fontSize);
-    [[nodiscard]] QString spokenText() const override { return m_text; }
+    [[nodiscard]] QString spokenText() const override { return m_line.text; }
 
     /// Everything drawn at this moment.
     [[nodiscard]] std::vector<Glyph> glyphs() const;
     /// The sum of all cells, before anything is drawn smaller.
-    [[nodiscard]] double textWidth() const { return m_glyphs.width(m_text); }
+    [[nodiscard]] double textWidth() const { return m_glyphs.width(m_line.text); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    /// The middle of each character of `text`, from the middle of the view, before anything is drawn smaller.
-    [[nodiscard]] std::vector<double> middlesOf(const QString& text) const;
+    struct Line {
+        QString text;
+        std::vector<double> middles; ///< Of each character, from that of the view, before anything is drawn smaller.
+    };
+
+    [[nodiscard]] Line lineOf(const QString& text) const;
     [[nodiscard]] double scale() const;
+    /// What is drawn again in each frame.
+    [[nodiscard]] QRegion rollingCells() const;
     void redrawRolling();
 
-    QString m_text;
-    QString m_previous; ///< As long as `m_text`, or empty when nothing rolls.
+    Line m_line;
+    Line m_previous; ///< As long as `m_line`, or empty when nothing rolls.
+    QRegion m_rolling;
     double m_fontSize = 64;
     double m_redrawn = 1; ///< How far the digits had rolled when they were last drawn.
     ClockGlyphs m_glyphs;

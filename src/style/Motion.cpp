@@ -11,7 +11,8 @@ namespace velto {
 
 namespace {
 
-/// Fifty frames a second, which the eye takes for motion. Qt would draw 62, in step with no screen either.
+/// Three of four frames of the usual screen, which the eye takes for motion. Qt would draw 62 a second, in step with no
+/// screen either.
 class FrameClock final : public QAnimationDriver {
 public:
     using QAnimationDriver::QAnimationDriver;
@@ -20,7 +21,7 @@ protected:
     void start() override
     {
         QAnimationDriver::start();
-        m_timer.start(20, Qt::PreciseTimer, this);
+        m_timer.start(1000 / 45, Qt::PreciseTimer, this);
     }
 
     void stop() override
