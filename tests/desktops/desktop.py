@@ -33,6 +33,7 @@ class Desktop:
     THEMES = {"": None}  # by name: whether the bar is dark then, where that is known
 
     def __init__(self, folder, name, suite, build):
+        self.suite = suite
         self._folder, self._name, self._build = folder, name, build
         self._root = Root(os.path.join(folder, self.ROOT or name), suite, [*COMMON, *self.PACKAGES])
 

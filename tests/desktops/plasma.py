@@ -5,14 +5,14 @@ import json
 from desktop import Window
 from waiting import wait_for
 from wayland import WaylandDesktop
-from x11 import X11Desktop
+from x11 import PICTURE, X11Desktop
 
 _SHELL = """
-export LIBGL_ALWAYS_SOFTWARE=1 KDE_FULL_SESSION=true KDE_SESSION_VERSION=5
+export LIBGL_ALWAYS_SOFTWARE=1 KDE_FULL_SESSION=true KDE_SESSION_VERSION=$(basename /usr/bin/kded? | tail -c 2)
 mkdir -p ~/.config/kdedefaults
 export XDG_CONFIG_DIRS=$HOME/.config/kdedefaults:/etc/xdg # as startplasma has it
 dbus-update-activation-environment --all
-kded5 &
+kded$KDE_SESSION_VERSION &
 plasmashell &
 until dbus-send --session --print-reply --dest=org.kde.StatusNotifierWatcher /StatusNotifierWatcher \\
     org.freedesktop.DBus.Properties.Get string:org.kde.StatusNotifierWatcher \\
@@ -22,7 +22,8 @@ env | grep -E '^(HOME|XDG_|DBUS|PATH|LANG|USER|LOGNAME|WAYLAND_|DISPLAY|XAUTHORI
 wait
 """
 _WINDOWS = """
-const windows = workspace.clientList().filter(window => !window.minimized && !window.hidden);
+const windows = (workspace.windowList ? workspace.windowList() : workspace.clientList())
+    .filter(window => !window.minimized && !window.hidden);
 windows.sort((one, other) => one.stackingOrder - other.stackingOrder);
 callDBus("%s", "/", "org.velto.Answers", "Answer", JSON.stringify(windows.map(window => {
     const r = window.frameGeometry;
@@ -59,8 +60,8 @@ scripting("unloadScript", "ask")
 
 class _Plasma:
     ROOT = "kde"
-    PACKAGES = """kwin-x11 kwin-wayland plasma-workspace plasma-workspace-wayland plasma-desktop kded5 xvfb gcc libc6-dev
-        libwayland-dev libwayland-bin plasma-wayland-protocols""".split()
+    PACKAGES = """kwin-x11 kwin-wayland plasma-workspace plasma-desktop qtwayland5 xvfb gcc libc6-dev libwayland-dev
+        libwayland-bin plasma-wayland-protocols""".split()
 
     THEMES = {  # the colours of the applications, and the panel's own
         "BreezeLight default": False,
@@ -73,7 +74,8 @@ class _Plasma:
 
     def prepare(self):
         super().prepare()
-        wait_for(lambda: self.window("Plasma"), what="the panel")
+        wait_for(lambda: any(window.rectangle[1] > 600 and window.rectangle[2] == 1280 for window in self.windows()),
+                 what="the panel")
 
     def use_theme(self, name):
         colors, _, style = name.partition(" ")
@@ -88,7 +90,8 @@ class _Plasma:
                 in json.loads(self.session.run("python3", "-c", _ASK, _WINDOWS))]
 
     def item_place(self):
-        return 1063, 778  # the first in the tray of a panel as it comes
+        # The first in the tray of a panel as it comes.
+        return (1063, 778) if self.suite == "bookworm" else (1105, 780)
 
 
 class PlasmaX11(_Plasma, X11Desktop):
@@ -115,9 +118,11 @@ position=40,560
 positionrule=3
 EOF
 cp /usr/bin/kwin_wayland /tmp # without its capability, which namespaces do not give
-/tmp/kwin_wayland --virtual --xwayland --width 1280 --height 800 --no-lockscreen --socket wayland-0 &
-until [ -S $XDG_RUNTIME_DIR/wayland-0 ] && ls /tmp/.X11-unix/X*; do sleep 0.2; done >/dev/null 2>&1
-export WAYLAND_DISPLAY=wayland-0 DISPLAY=$(ls /tmp/.X11-unix | grep -v _ | sed 's/X/:/' | head -1)
+Xvfb :9 -screen 0 1280x800x24 -nolisten tcp -noreset +extension GLX &
+until DISPLAY=:9 xdpyinfo >/dev/null 2>&1; do sleep 0.2; done
+/tmp/kwin_wayland --x11-display :9 --xwayland --width 1280 --height 800 --no-lockscreen --socket wayland-0 &
+until [ -S $XDG_RUNTIME_DIR/wayland-0 ] && ls /tmp/.X11-unix/X[0-8]; do sleep 0.2; done >/dev/null 2>&1
+export WAYLAND_DISPLAY=wayland-0 DISPLAY=$(ls /tmp/.X11-unix | grep -v '_\|X9' | sed 's/X/:/' | head -1)
 """ + _SHELL.replace("plasmashell &", "QT_QPA_PLATFORM=wayland plasmashell &")
 
     def type(self, text):
@@ -132,25 +137,8 @@ export WAYLAND_DISPLAY=wayland-0 DISPLAY=$(ls /tmp/.X11-unix | grep -v _ | sed '
 
     def picture(self, path):
         with open(path, "wb") as file:
-            file.write(self.session.run_bytes("python3", "-c", _PICTURE))
+            file.write(self.session.run_bytes("env", "DISPLAY=:9", "GDK_BACKEND=x11", "python3", "-c", PICTURE))
 
 
 _CODES = {letter: start + i for start, row in ((2, "1234567890"), (16, "qwertyuiop"), (30, "asdfghjkl"), (44, "zxcvbnm"))
           for i, letter in enumerate(row)} | {"Escape": 1, "Return": 28, "Tab": 15}
-_PICTURE = """
-import os, sys, gi
-gi.require_version("GdkPixbuf", "2.0")
-from gi.repository import GdkPixbuf, Gio, GLib
-bus = Gio.bus_get_sync(Gio.BusType.SESSION)
-reading, writing = os.pipe()
-(said,), _ = bus.call_with_unix_fd_list_sync(
-    "org.kde.KWin", "/org/kde/KWin/ScreenShot2", "org.kde.KWin.ScreenShot2", "CaptureArea",
-    GLib.Variant("(iiuua{sv}h)", (0, 0, 1280, 800, {"include-cursor": GLib.Variant("b", True)}, 0)), None, 0, 10000,
-    Gio.UnixFDList.new_from_array([writing]), None)
-with open(reading, "rb") as file:
-    pixels = bytearray(file.read(said["stride"] * said["height"]))
-pixels[0::4], pixels[2::4] = pixels[2::4], pixels[0::4]
-picture = GdkPixbuf.Pixbuf.new_from_bytes(GLib.Bytes.new(bytes(pixels)), GdkPixbuf.Colorspace.RGB, True, 8,
-                                          said["width"], said["height"], said["stride"])
-sys.stdout.buffer.write(picture.save_to_bufferv("png", [], [])[1])
-"""

@@ -49,6 +49,10 @@ class Stories(Story):
         wait_for(lambda: desktop.text_in_bar() == "25:00", what="the time in the bar")
         desktop.save_picture("launch")
 
+    def test_the_card_that_comes_at_launch_hangs_from_the_top(self):
+        wait_for(lambda: desktop.card.rectangle[1] < 100, what="the card at the top")
+        holds(lambda: desktop.card.rectangle[1] < 100, 1, "the card at the top")
+
     def test_the_time_can_be_read_with_each_theme_from_the_start_and_after_a_change(self):
         for theme, is_dark in desktop.THEMES.items():
             desktop.use_theme(theme)

@@ -22,10 +22,10 @@ until xdpyinfo >/dev/null 2>&1; do sleep 0.2; done
 
     def picture(self, path):
         with open(path, "wb") as file:
-            file.write(self.session.run_bytes("python3", "-c", _PICTURE))
+            file.write(self.session.run_bytes("python3", "-c", PICTURE))
 
 
-_PICTURE = """
+PICTURE = """
 import sys, gi
 gi.require_version("Gdk", "3.0")
 from gi.repository import Gdk
