@@ -38,7 +38,10 @@ private:
 
 void installFrameClock()
 {
-    static const QPointer clock = new FrameClock(qApp);
+    static QPointer<FrameClock> clock;
+    if (clock)
+        return;
+    clock = new FrameClock(qApp);
     clock->install();
 }
 
