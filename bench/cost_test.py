@@ -6,6 +6,7 @@ import time
 import unittest
 
 from desktop import VirtualDesktop, wait_for
+from machine import time_queued
 from processes import LOOKS_AT_BAR, cost_a_second, memory
 
 VELTO, FLOOR = os.environ["VELTO_BIN"], os.environ["FLOOR_BIN"]
@@ -79,10 +80,13 @@ class Cost(unittest.TestCase):
         self.assertLess(last, first + 0.5)
 
     def test_starts_as_fast_as_the_least_program(self):
+        neighbours = [os.getpid(), self.desktop.x_server.pid, self.desktop.bus_daemon.pid]
+
         def seconds(start):
-            begin = time.monotonic()
+            """Without the time for which a processor was missing."""
+            begin = time.monotonic() - time_queued(neighbours)
             process = start()
-            duration = time.monotonic() - begin
+            duration = time.monotonic() - time_queued([process.pid, *neighbours]) - begin
             process.kill()
             process.wait()
             wait_for(lambda: self.icons == 0, what="the end of the icon")
@@ -93,8 +97,8 @@ class Cost(unittest.TestCase):
             wait_for(lambda: self.icons == 1, what="velto's item")
             return process
 
-        of_velto = statistics.median(seconds(start_velto) for _ in range(7))
-        of_floor = statistics.median(seconds(self.start_floor) for _ in range(7))
+        pairs = [(seconds(start_velto), seconds(self.start_floor)) for _ in range(7)]
+        of_velto, of_floor = map(statistics.median, zip(*pairs))
 
         print(f"\nstart-up: {of_velto * 1000:.0f} ms, the floor {of_floor * 1000:.0f} ms")
         self.assertLess(of_velto, 2 * of_floor)
