@@ -14,6 +14,16 @@ from waiting import wait_for  # noqa: E402
 
 _HERE = os.path.join(PROJECT, "tests", "desktops")
 
+# The end of a START: when the bar takes items, the desktop is up.
+UP_WITH_ITEMS = """
+until dbus-send --session --print-reply --dest=org.kde.StatusNotifierWatcher /StatusNotifierWatcher \\
+    org.freedesktop.DBus.Properties.Get string:org.kde.StatusNotifierWatcher \\
+    string:IsStatusNotifierHostRegistered | grep true
+do sleep 0.2; done >/dev/null 2>&1
+env | grep -E '^(HOME|XDG_|DBUS|PATH|LANG|USER|LOGNAME|WAYLAND_|DISPLAY|XAUTHORITY|KDE_)' > $XDG_RUNTIME_DIR/session
+wait
+"""
+
 
 @dataclass
 class Window:

@@ -2,7 +2,7 @@
 """Plasma, on X11 and on Wayland."""
 import json
 
-from desktop import Window
+from desktop import UP_WITH_ITEMS, Window
 from waiting import wait_for
 from wayland import WaylandDesktop
 from x11 import PICTURE, X11Desktop
@@ -14,13 +14,7 @@ export XDG_CONFIG_DIRS=$HOME/.config/kdedefaults:/etc/xdg # as startplasma has i
 dbus-update-activation-environment --all
 kded$KDE_SESSION_VERSION &
 plasmashell &
-until dbus-send --session --print-reply --dest=org.kde.StatusNotifierWatcher /StatusNotifierWatcher \\
-    org.freedesktop.DBus.Properties.Get string:org.kde.StatusNotifierWatcher \\
-    string:IsStatusNotifierHostRegistered | grep true
-do sleep 0.2; done >/dev/null 2>&1
-env | grep -E '^(HOME|XDG_|DBUS|PATH|LANG|USER|LOGNAME|WAYLAND_|DISPLAY|XAUTHORITY|KDE_)' > $XDG_RUNTIME_DIR/session
-wait
-"""
+""" + UP_WITH_ITEMS
 _WINDOWS = """
 const windows = (workspace.windowList ? workspace.windowList() : workspace.clientList())
     .filter(window => !window.minimized && !window.hidden);

@@ -3,7 +3,7 @@
 import json
 import re
 
-from desktop import Window
+from desktop import UP_WITH_ITEMS, Window
 from x11 import X11Desktop
 
 
@@ -13,13 +13,7 @@ class Xfce(X11Desktop):
     START = X11Desktop.SERVER + """
 export XDG_CURRENT_DESKTOP=XFCE XDG_SESSION_TYPE=x11
 xfce4-session &
-until dbus-send --session --print-reply --dest=org.kde.StatusNotifierWatcher /StatusNotifierWatcher \\
-    org.freedesktop.DBus.Properties.Get string:org.kde.StatusNotifierWatcher \\
-    string:IsStatusNotifierHostRegistered | grep true
-do sleep 0.2; done >/dev/null 2>&1
-env | grep -E '^(HOME|XDG_|DBUS|PATH|LANG|USER|LOGNAME|DISPLAY)' > $XDG_RUNTIME_DIR/session
-wait
-"""
+""" + UP_WITH_ITEMS
 
     def prepare(self):
         super().prepare()
