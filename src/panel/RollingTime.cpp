@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace velto {
 
@@ -61,7 +62,7 @@ void RollingTime::setTime(const QString& text, double fontSize)
     }
     m_previous = isSameShape ? m_line : Line();
     m_line = lineOf(text);
-    m_rolling = rollingCells();
+    update(std::exchange(m_rolling, rollingCells())); // A digit that still rolls need not change now.
     if (isSameShape) {
         run(m_roll);
         redrawRolling();
@@ -183,6 +184,8 @@ void RollingTime::redrawRolling()
         return;
     m_redrawn = m_roll.value();
     update(m_rolling);
+    if (m_redrawn == 1)
+        m_rolling = {};
 }
 
 } // namespace velto

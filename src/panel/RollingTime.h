@@ -57,8 +57,8 @@ private:
     void redrawRolling();
 
     Line m_line;
-    Line m_previous; ///< As long as `m_line`, or empty when nothing rolls.
-    QRegion m_rolling;
+    Line m_previous;   ///< As long as `m_line`, or empty when nothing rolls.
+    QRegion m_rolling; ///< Empty at rest.
     double m_fontSize = 64;
     double m_redrawn = 1; ///< How far the digits had rolled when they were last drawn.
     ClockGlyphs m_glyphs;

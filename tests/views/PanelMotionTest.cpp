@@ -11,6 +11,52 @@ namespace {
 
 class PanelMotionTest : public PanelContainerViewTest { };
 
+/// A time in a window of its own, and where it was painted.
+class PaintedTime : public RollingTime {
+public:
+    PaintedTime() : RollingTime(196)
+    {
+        show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(this));
+    }
+
+    /// Whole, with nothing rolling and nothing left to paint.
+    void settle(const QString& text)
+    {
+        setTime(text, 64);
+        findChild<Motion*>()->stop();
+        findChild<Motion*>()->finish();
+        repaint();
+        QApplication::processEvents();
+    }
+
+    /// What is painted for another time until the next frame.
+    QRegion paintedFor(const QString& text)
+    {
+        painted = QRegion();
+        setTime(text, 64);
+        findChild<Motion*>()->pause();
+        QApplication::processEvents();
+        return painted;
+    }
+
+    /// The points, from the left, where glyphs stand that do not roll.
+    [[nodiscard]] QPoint middleOf(std::size_t cell) const
+    {
+        return (QRectF(rect()).center() + QPointF(glyphs()[cell].center.x(), 0)).toPoint();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        painted += event->region();
+        RollingTime::paintEvent(event);
+    }
+
+private:
+    QRegion painted;
+};
+
 TEST_F(PanelMotionTest, TheArcGrowsEvenlyForAThirdOfASecondHoweverLongThePhase)
 {
     for (const int minutes : {1, 25, 120}) {
@@ -142,6 +188,32 @@ TEST_F(PanelMotionTest, ALastOneStandsNotMuchFurtherFromItsNeighbourThanAOneElse
     };
 
     EXPECT_LT(wayTo("04:51", 4), wayTo("01:00", 1) + 2.5);
+}
+
+TEST_F(PanelMotionTest, OnlyTheDigitsThatChangeArePaintedForATick)
+{
+    PaintedTime time;
+    for (int second = 59; second > 0; --second) {
+        if (second % 10 <= 2)
+            continue; // For a last "1" all make room, and the digit before the last changes after a "0".
+        time.settle(QString::asprintf("24:%02d", second));
+        const auto tens = time.middleOf(3);
+        const auto ones = time.middleOf(4);
+
+        const auto painted = time.paintedFor(QString::asprintf("24:%02d", second - 1));
+        EXPECT_TRUE(painted.contains(ones)) << second;
+        EXPECT_FALSE(painted.contains(tens)) << second;
+    }
+}
+
+TEST_F(PanelMotionTest, ATimeThatComesWhileDigitsRollIsPaintedWhereTheyRolled)
+{
+    PaintedTime time;
+    time.settle("24:00");
+    const auto minutes = time.middleOf(1);
+    ASSERT_TRUE(time.paintedFor("25:00").contains(minutes));
+
+    EXPECT_TRUE(time.paintedFor("25:05").contains(minutes));
 }
 
 TEST_F(PanelMotionTest, EveryMotionLastsAThirdOfASecond)
