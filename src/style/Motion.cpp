@@ -11,7 +11,7 @@ namespace velto {
 
 namespace {
 
-/// Three of four frames of the usual screen, which the eye takes for motion. Qt would draw 62 a second, in step with no
+/// Two of three frames of the usual screen, which the eye takes for motion. Qt would draw 62 a second, in step with no
 /// screen either.
 class FrameClock final : public QAnimationDriver {
 public:
@@ -21,7 +21,7 @@ protected:
     void start() override
     {
         QAnimationDriver::start();
-        m_timer.start(1000 / 45, Qt::PreciseTimer, this);
+        m_timer.start(1000 / 40, Qt::PreciseTimer, this);
     }
 
     void stop() override
