@@ -42,21 +42,27 @@ class Cost(unittest.TestCase):
         self.assertEqual(cost_a_second([[velto.pid]], 5)[0][1], 0, "with the card hidden")
 
     def test_counting_costs_little_more_than_the_least_program(self):
+        on_show = self.enterContext(VirtualDesktop()).start_velto({})
+        on_show.press("Start")
         velto = self.desktop.start_velto({})
         velto.press("Start")
         self.hide_card(velto)
         floor = self.start_floor()
         time.sleep(LOOKS_AT_BAR)
 
-        of_velto, of_floor = cost_a_second([[velto.pid], [floor.pid]], 10)
+        of_card, of_velto, of_floor = cost_a_second([[on_show.pid], [velto.pid], [floor.pid]], 20)
 
         print(f"\ncounting: {of_velto[0]:.2%} of a core and {of_velto[1]:.1f} wake-ups a second, "
+              f"on show {of_card[0]:.2%} and {of_card[1]:.1f}, "
               f"the floor {of_floor[0]:.2%} and {of_floor[1]:.1f}; "
               f"memory {memory([velto.pid])[0]:.1f} MiB, the floor {memory([floor.pid])[0]:.1f} MiB")
         # Four outlined digits are drawn against two plain ones: twice the instructions, and up to four times the
         # time where the processor has slept in between.
         self.assertLess(of_velto[0], 6 * of_floor[0])
         self.assertLess(of_velto[1], 1.5 * of_floor[1])
+        # The same, and fourteen frames of the digits.
+        self.assertLess(of_card[0], 12 * of_floor[0])
+        self.assertLess(of_card[1], 6 * of_floor[1])
         self.assertLess(memory([velto.pid])[0], 2 * memory([floor.pid])[0])
 
     def test_a_window_gives_its_memory_back(self):
