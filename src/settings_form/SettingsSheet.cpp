@@ -19,6 +19,7 @@
 #include <QPaintEvent>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <array>
@@ -279,6 +280,7 @@ QLayout* SettingsSheet::phaseMusic(const QString& title, const QString& otherTit
         about->setVisible(preset() != MusicPreset::custom);
         url->setVisible(preset() == MusicPreset::custom);
         if (const auto text = QString::fromStdString(customURL()); text != url->text()) {
+            const QSignalBlocker quiet(url); // A field that holds less than the whole address must not shorten it.
             url->setText(text);
             url->setCursorPosition(0);
         }

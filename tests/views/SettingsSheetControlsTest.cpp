@@ -269,6 +269,16 @@ TEST_F(SettingsSheetControlsTest, TheFieldForAnAddressReplacesTheDescriptionWith
     EXPECT_EQ(settings.focusMusicPreset(), MusicPreset::grooveSalad);
 }
 
+TEST_F(SettingsSheetControlsTest, AnAddressLongerThanItsFieldTakesStaysWhole)
+{
+    const std::string address(40'000, 'x');
+    settings.focusCustomURL.set(address);
+    open();
+
+    find<Button>("Apply")->click();
+    EXPECT_EQ(settings.focusCustomURL(), address);
+}
+
 TEST_F(SettingsSheetControlsTest, ASwitchStaysUnderThePointerWhenThePageGetsShorter)
 {
     settings.enableFocusMusic.set(true);
