@@ -40,6 +40,7 @@
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace velto {
@@ -118,11 +119,22 @@ int run(QApplication& application)
     return application.exec();
 }
 
+/// What is opened later would take the place of a standard stream that is closed, and get what is meant for that.
+void fillStandardStreams()
+{
+    int file = 0;
+    do
+        file = open("/dev/null", O_RDWR | O_CLOEXEC);
+    while (file >= 0 && file <= STDERR_FILENO);
+    close(file);
+}
+
 } // namespace
 } // namespace velto
 
 int main(int argc, char* argv[])
 {
+    velto::fillStandardStreams();
     // Standard output may have no reader any more.
     std::signal(SIGPIPE, SIG_IGN);
 #ifdef __GLIBC__

@@ -63,6 +63,14 @@ class TheProcess(unittest.TestCase):
 
         self.assertEqual(velto.wait(), 0)
 
+    def test_nothing_it_opens_takes_the_place_of_a_closed_standard_stream(self):
+        velto = desktop.run("sh", "-c", 'exec "$0" <&- >&- 2>&-', desktop.program)
+        self.addCleanup(lambda: (velto.kill(), velto.wait()))
+        wait_for(lambda: desktop.application(velto.pid), what="velto")
+
+        for number in range(3):
+            self.assertEqual(os.readlink(f"/proc/{velto.pid}/fd/{number}"), "/dev/null")
+
     def test_a_signal_ends_it_within_a_second(self):
         for chosen_signal in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
             with self.subTest(signal=chosen_signal):

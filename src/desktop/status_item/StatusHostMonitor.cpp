@@ -9,12 +9,17 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <chrono>
 #include <memory>
 #include <utility>
+
+using namespace std::chrono_literals;
 
 namespace velto {
 
 namespace {
+
+constexpr auto pauseAfterSilence = 5s;
 
 /// Base name of the program that process `pid` runs; empty if it cannot be read.
 std::string programName(uint pid)
@@ -38,6 +43,9 @@ StatusHostMonitor::StatusHostMonitor(QDBusConnection bus) :
     m_bus(std::move(bus)),
     m_watcher(statusNotifierWatcherService, m_bus, QDBusServiceWatcher::WatchForOwnerChange)
 {
+    m_nextTry.setSingleShot(true);
+    m_nextTry.setInterval(pauseAfterSilence);
+    connect(&m_nextTry, &QTimer::timeout, this, &StatusHostMonitor::askForHosts);
     connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
         [this](const QString&, const QString&, const QString& owner) { watcherOwnerChanged(owner); });
     for (const auto* signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
@@ -58,6 +66,7 @@ void StatusHostMonitor::watcherOwnerChanged(const QString& owner)
     if (owner == m_owner)
         return;
     m_owner = owner;
+    m_isSilent = false;
     askForHosts();
     if (!m_owner.isEmpty())
         Q_EMIT watcherAppeared();
@@ -65,6 +74,7 @@ void StatusHostMonitor::watcherOwnerChanged(const QString& owner)
 
 void StatusHostMonitor::askForHosts()
 {
+    m_nextTry.stop();
     const auto inquiry = std::make_shared<Inquiry>();
     m_latest = inquiry;
     if (m_owner.isEmpty()) {
@@ -77,7 +87,15 @@ void StatusHostMonitor::askForHosts()
     whenAnswered(m_bus.asyncCall(question), [this, inquiry](const QDBusPendingReply<QDBusVariant>& registered) {
         if (inquiry != m_latest.lock())
             return;
-        if (!registered.isValid() || !registered.value().variant().toBool()) {
+        if (!registered.isValid()) {
+            m_isSilent = true;
+            m_nextTry.start();
+            setHost(std::nullopt);
+            return;
+        }
+        if (std::exchange(m_isSilent, false))
+            Q_EMIT watcherAppeared();
+        if (!registered.value().variant().toBool()) {
             setHost(std::nullopt);
             return;
         }

@@ -6,6 +6,7 @@
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>
 #include <QObject>
+#include <QTimer>
 
 #include <optional>
 
@@ -28,7 +29,7 @@ public:
 Q_SIGNALS:
     /// At the start there is no watcher, nor is a host about to come.
     void watcherMissing();
-    /// A new watcher owns the well-known name, and knows of no item yet.
+    /// A new watcher owns the well-known name, and knows of no item yet; or one answers that did not before.
     void watcherAppeared();
     void hostChanged();
 
@@ -48,6 +49,8 @@ private:
     QDBusConnection m_bus;
     QDBusServiceWatcher m_watcher;
     QString m_owner; ///< Unique name of the watcher; empty without one.
+    bool m_isSilent = false; ///< The watcher did not answer when it was asked last, or with an error.
+    QTimer m_nextTry;
     std::weak_ptr<Inquiry> m_latest;
     std::optional<StatusHostFacts> m_host;
 };

@@ -250,6 +250,13 @@ void StripWindow::dragTo(int x)
     place();
 }
 
+void StripWindow::closeEvent(QCloseEvent* /*event*/)
+{
+    // The time has no other place. Not refused, since that would refuse the end of the session, too.
+    QMetaObject::invokeMethod(
+        this, [this] { show(); }, Qt::QueuedConnection);
+}
+
 void StripWindow::setVisible(bool visible)
 {
     m_isWanted = visible;

@@ -31,6 +31,9 @@ public:
 
     void setVisible(bool visible) override;
 
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     class Face;
 

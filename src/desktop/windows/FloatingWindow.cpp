@@ -123,6 +123,11 @@ bool FloatingWindow::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
+void FloatingWindow::closeEvent(QCloseEvent* /*event*/)
+{
+    m_dismiss();
+}
+
 void FloatingWindow::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Cancel))

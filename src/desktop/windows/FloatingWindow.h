@@ -20,7 +20,8 @@ class FloatingWindow : public QWidget {
     Q_OBJECT
 
 public:
-    /// `dismiss` runs for Escape, unless the content has used it, and for the loss of a taken focus.
+    /// `dismiss` runs for Escape, unless the content has used it, for the loss of a taken focus, and when the window
+    /// manager closes the window.
     FloatingWindow(
         std::unique_ptr<QWidget> content, std::function<void()> dismiss, Focus focus, QWidget* parent = nullptr);
 
@@ -45,6 +46,7 @@ signals:
 protected:
     [[nodiscard]] WindowShape& shape() { return m_shape; }
 
+    void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 

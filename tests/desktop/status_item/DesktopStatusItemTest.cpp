@@ -183,6 +183,27 @@ TEST_F(DesktopStatusItemTest, WaitsAMomentForTheNextHostAndLeavesTheStripForIt)
     EXPECT_TRUE(eventually([] { return shown<StripWindow>() == nullptr; }));
 }
 
+TEST_F(DesktopStatusItemTest, TheStripComesBackWhenAWindowManagerClosesIt)
+{
+    ASSERT_TRUE(eventually([] { return shown<StripWindow>() != nullptr; }));
+
+    EXPECT_TRUE(shown<StripWindow>()->close()) << "A close that is refused would refuse the end of the session, too.";
+    EXPECT_TRUE(eventually([] { return shown<StripWindow>() != nullptr; }));
+}
+
+TEST_F(DesktopStatusItemTest, AsksAWatcherAgainThatDidNotAnswer)
+{
+    FakeWatcher watcher;
+    watcher.leave();
+    QTest::qWait(1000); // for all that is asked of a new watcher
+    EXPECT_TRUE(watcher.items.isEmpty());
+    EXPECT_NE(shown<StripWindow>(), nullptr);
+
+    watcher.serve();
+    EXPECT_TRUE(eventually([&] { return !watcher.items.isEmpty(); }));
+    EXPECT_TRUE(eventually([] { return shown<StripWindow>() == nullptr; }));
+}
+
 TEST_F(DesktopStatusItemTest, ComesBackWithTheBus)
 {
     {

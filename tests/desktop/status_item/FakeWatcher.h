@@ -18,10 +18,18 @@ public:
         m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("watcher %1").arg(++m_count))),
         m_hasHost(hasHost)
     {
-        m_bus.registerObject(QStringLiteral("/StatusNotifierWatcher"), this, QDBusConnection::ExportScriptableContents);
+        serve();
         m_bus.registerService(QStringLiteral("org.kde.StatusNotifierWatcher"));
     }
     ~FakeWatcher() override { QDBusConnection::disconnectFromBus(m_bus.name()); }
+
+    void serve()
+    {
+        m_bus.registerObject(QStringLiteral("/StatusNotifierWatcher"), this, QDBusConnection::ExportScriptableContents);
+    }
+
+    /// Answers with errors from now on, under its name.
+    void leave() { m_bus.unregisterObject(QStringLiteral("/StatusNotifierWatcher")); }
 
     void setHasHost(bool hasHost)
     {

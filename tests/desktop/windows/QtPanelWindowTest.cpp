@@ -274,6 +274,16 @@ TEST(TakingPanelTest, ShownByItselfItAcceptsNoKeyboardBeforeItIsUsed)
     }
 }
 
+TEST_F(QtPanelWindowTest, ClosedByTheWindowManagerItIsDismissedAndCanBeShownAgain)
+{
+    for (int round = 1; round <= 2; ++round) {
+        show();
+        EXPECT_TRUE(surface->window()->close()) << "A close that is refused would refuse the end of the session, too.";
+        EXPECT_EQ(dismissals, round);
+        EXPECT_FALSE(panel->isVisible());
+    }
+}
+
 TEST_F(QtPanelWindowTest, AMenuThatIsOpenStaysWhenItComes)
 {
     QMenu menu;
