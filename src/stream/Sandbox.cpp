@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <linux/landlock.h>
+#include <pthread.h>
 #include <sched.h>
 #include <seccomp.h>
 #include <sys/ioctl.h>
@@ -61,6 +62,16 @@ constexpr __u64 reading = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ
 void reportLack(const char* what)
 {
     std::cerr << "velto.audio: the sandbox goes without " << what << std::endl;
+}
+
+/// The stacks of threads count as memory, and are as large as the user's limit unless this is said.
+void limitStacks()
+{
+    pthread_attr_t attributes;
+    pthread_attr_init(&attributes);
+    pthread_attr_setstacksize(&attributes, std::size_t{8} << 20);
+    pthread_setattr_default_np(&attributes);
+    pthread_attr_destroy(&attributes);
 }
 
 void limit(__rlimit_resource resource, rlim_t most)
@@ -165,6 +176,7 @@ void enterSandbox()
     std::signal(SIGXFSZ, SIG_IGN);
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_FSIZE, 0);
+    limitStacks();
     limit(RLIMIT_DATA, mostMemory);
 
     leaveFiles();

@@ -48,7 +48,7 @@ private:
 
     QDBusConnection m_bus;
     QDBusServiceWatcher m_watcher;
-    QString m_owner; ///< Unique name of the watcher; empty without one.
+    QString m_owner;         ///< Unique name of the watcher; empty without one.
     bool m_isSilent = false; ///< The watcher did not answer when it was asked last, or with an error.
     QTimer m_nextTry;
     std::weak_ptr<Inquiry> m_latest;

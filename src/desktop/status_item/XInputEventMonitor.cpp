@@ -80,11 +80,8 @@ void XInputEventMonitor::CloseDisplay::operator()(_XDisplay* display) const
 
 std::optional<Subscription> XInputEventMonitor::addOutsidePressMonitor(std::function<void()> handler)
 {
-    if (!connect())
-        return std::nullopt;
-
-    // Earlier presses are not for the new observer.
-    readEvents();
+    if (connect())
+        readEvents(); // Earlier presses are not for the new observer.
     auto token = std::make_shared<Subscription>(m_presses.subscribe(std::move(handler)));
     followInterest();
     return Subscription([this, token] {
@@ -126,7 +123,7 @@ bool XInputEventMonitor::connect()
 void XInputEventMonitor::followInterest()
 {
     const bool isWanted = m_presses.subscriberCount() > 0 || m_gesture.isUnderway();
-    if (isWanted == m_isListening)
+    if (!m_display || isWanted == m_isListening)
         return;
 
     m_isListening = isWanted;

@@ -17,7 +17,7 @@ namespace velto {
 class ClickGesture;
 
 /// Sees every press on the X server, whoever holds a grab, through raw events of XInput 2.2, and every menu that
-/// leaves the screen.
+/// leaves the screen. Without such a server only `dismiss` tells of presses.
 ///
 /// Has its own connection, opened by the first monitor. The server is asked for events only while
 /// somebody watches or a gesture is under way.

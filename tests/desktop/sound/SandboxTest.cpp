@@ -22,9 +22,9 @@ protected:
         StreamTest::TearDown();
     }
 
-    void start(const std::string& url)
+    void start(const std::string& url, const QString& before = {})
     {
-        program = startProcess("sh", {"-c", "exec '" VELTO_STREAM_PROGRAM "' 2>&1"});
+        program = startProcess("sh", {"-c", before + "exec '" VELTO_STREAM_PROGRAM "' 2>&1"});
         program->write(QByteArray::fromStdString(url) + "\n1\n");
     }
 
@@ -43,6 +43,13 @@ protected:
 
     std::unique_ptr<QProcess> program;
 };
+
+TEST_F(SandboxTest, PlaysWhereTheUsersThreadsHaveLargeStacks)
+{
+    recording = std::make_unique<Recording>();
+    start(streams.url("live.m3u8"), "ulimit -s 262144; ");
+    EXPECT_TRUE(eventually([&] { return toneIsHeard(); }));
+}
 
 TEST_F(SandboxTest, HoldsInEveryThread)
 {
