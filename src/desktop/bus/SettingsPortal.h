@@ -2,16 +2,21 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 #include <QMap>
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 #include <QVariant>
 #include <QVariantMap>
 
+#include <memory>
+
 namespace velto {
 
-/// Some groups of the desktop's settings, as its portal tells them. Nobody waits for it. Main thread only.
+/// Some groups of the desktop's settings, as its portal tells them: numbers and short texts. Nobody waits for it; a
+/// portal that comes later is asked then. Main thread only.
 class SettingsPortal final : public QObject {
     Q_OBJECT
 
@@ -31,6 +36,11 @@ private slots:
     void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
 
 private:
+    void askForAll();
+    void keep(const QString& group, const QString& key, const QVariant& value);
+
+    std::unique_ptr<QDBusServiceWatcher> m_portal; ///< On the bus that was asked last.
+    QTimer m_nextTry;
     QStringList m_groups;
     QMap<QString, QVariantMap> m_settings;
 };

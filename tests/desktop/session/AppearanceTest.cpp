@@ -2,6 +2,7 @@
 #include "desktop/session/Appearance.h"
 
 #include "desktop/bus/SessionBus.h"
+#include "desktop/bus/SettingsPortal.h"
 #include "fixtures/Bus.h"
 #include "style/Motion.h"
 
@@ -103,6 +104,31 @@ TEST_F(AppearanceTest, ThePortalIsAskedOnceAndNotWaitedFor)
 
     ASSERT_TRUE(comesTo(Theme::dark));
     EXPECT_EQ(portal.questions, 1);
+}
+
+TEST_F(AppearanceTest, APortalThatComesLaterIsAskedToo)
+{
+    Appearance subject{bus};
+    QTest::qWait(200); // until nobody has answered
+    FakePortal portal;
+    portal.groups[appearance]["color-scheme"] = 1u;
+
+    EXPECT_TRUE(comesTo(Theme::dark));
+}
+
+TEST_F(AppearanceTest, KeepsNoMoreThanADesktopHas)
+{
+    SettingsPortal settings({appearance});
+    settings.ask(bus.connection());
+    FakePortal portal;
+    portal.change(appearance, "text", QString(10'000, 'x'));
+    for (int number = 0; number < 1000; ++number)
+        portal.change(appearance, QStringLiteral("key %1").arg(number), 1u);
+
+    ASSERT_TRUE(QTest::qWaitFor([&] { return settings.setting(appearance, "key 0").isValid(); }, patience));
+    QTest::qWait(500);
+    EXPECT_FALSE(settings.setting(appearance, "text").isValid());
+    EXPECT_FALSE(settings.setting(appearance, "key 999").isValid());
 }
 
 TEST_F(AppearanceTest, ThePortalOverridesThePaletteUnlessItHasNoPreference)
