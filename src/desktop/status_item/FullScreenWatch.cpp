@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/status_item/FullScreenWatch.h"
 
+#include "desktop/x11/Pixels.h"
 #include "desktop/x11/X11Desktop.h"
 
 #include <QGuiApplication>
+#include <QScreen>
 #include <QWindow>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -74,7 +77,11 @@ bool FullScreenWatch::nativeEventFilter(const QByteArray& /*eventType*/, void* m
     static const auto active = x11::atom("_NET_ACTIVE_WINDOW");
     static const auto state = x11::atom("_NET_WM_STATE");
     const auto* event = static_cast<const xcb_generic_event_t*>(message);
-    if ((event->response_type & 0x7f) != XCB_PROPERTY_NOTIFY)
+    const int type = event->response_type & 0x7f;
+    if (type == XCB_CONFIGURE_NOTIFY && m_activeIsFullScreen
+        && static_cast<const xcb_configure_notify_event_t*>(message)->window == m_active)
+        look();
+    if (type != XCB_PROPERTY_NOTIFY)
         return false;
     const auto& change = *static_cast<const xcb_property_notify_event_t*>(message);
     if (change.atom == (m_dock != XCB_WINDOW_NONE ? stacking : active)
@@ -100,11 +107,14 @@ bool FullScreenWatch::activeWindowFills()
     if (isOurs)
         return m_isFilled; // It stands above the one that fills the screen.
     if (std::exchange(m_active, active) != active) {
-        constexpr std::uint32_t changes = XCB_EVENT_MASK_PROPERTY_CHANGE;
+        constexpr std::uint32_t changes = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
         xcb_change_window_attributes(x11::connection(), active, XCB_CW_EVENT_MASK, &changes);
     }
     const auto states = x11::property(active, x11::atom("_NET_WM_STATE"));
-    return std::ranges::count(states, x11::atom("_NET_WM_STATE_FULLSCREEN")) > 0;
+    m_activeIsFullScreen = std::ranges::count(states, x11::atom("_NET_WM_STATE_FULLSCREEN")) > 0;
+    const auto* screen = QGuiApplication::primaryScreen();
+    const auto area = m_activeIsFullScreen ? x11::geometry(active) : std::nullopt;
+    return screen && area && area->contains(toPixels(screen->geometry(), *screen).center());
 }
 
 void FullScreenWatch::look()

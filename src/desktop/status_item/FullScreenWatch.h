@@ -10,9 +10,9 @@ namespace velto {
 
 /// Says whether a window fills the main screen, so that what stands above others is in its way.
 ///
-/// On X11 that is the window with the keyboard, if its state says so. GNOME on Wayland shows other programs' windows
-/// to nobody, but puts docks below ordinary windows as long as the screen is filled: two unseen windows of ours tell by
-/// their order. Main thread only.
+/// On X11 that is the window with the keyboard, if its state says so and it is there. GNOME on Wayland shows other
+/// programs' windows to nobody, but puts docks below ordinary windows as long as the screen is filled: two unseen
+/// windows of ours tell by their order. Main thread only.
 class FullScreenWatch final : public QObject, public QAbstractNativeEventFilter {
     Q_OBJECT
 
@@ -35,6 +35,7 @@ private:
     xcb_window_t m_dock = XCB_WINDOW_NONE; ///< Only on GNOME.
     xcb_window_t m_ordinary = XCB_WINDOW_NONE;
     xcb_window_t m_active = XCB_WINDOW_NONE;
+    bool m_activeIsFullScreen = false; ///< On whichever screen.
     bool m_isFilled = false;
 };
 

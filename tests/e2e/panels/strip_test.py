@@ -9,6 +9,26 @@ ROOM_FOR_BUTTONS = 168
 MENU_ROLES = ("menu item", "check menu item")
 
 
+class TwoScreens(unittest.TestCase):
+    def test_a_window_that_fills_the_other_screen_leaves_the_strip_alone(self):
+        monitors = [(1280, 800, 0, 0), (1024, 768, 1280, 0)]
+        desktop = self.enterContext(VirtualDesktop(host="none", wm="openbox", size=(2304, 800), monitors=monitors))
+        velto = desktop.start_velto({})
+        wait_for(velto.has_strip, what="the strip")
+        desktop.open_window("other")
+
+        for x, name in ((1400, "other"), (100, "main")):
+            with self.subTest(screen=name):
+                desktop.ask("wmctrl", "-r", "other", "-e", f"0,{x},100,300,200")
+                desktop.ask("wmctrl", "-r", "other", "-b", "add,fullscreen")
+                if name == "main":
+                    wait_for(lambda: not velto.has_strip(), what="the strip gone from a filled screen")
+                else:
+                    holds(velto.has_strip, 2)
+                desktop.ask("wmctrl", "-r", "other", "-b", "remove,fullscreen")
+                wait_for(velto.has_strip, what="the strip again")
+
+
 class TheStrip(unittest.TestCase):
     def setUp(self):
         self.desktop = self.enterContext(VirtualDesktop(host="none"))
