@@ -16,7 +16,8 @@ class SoundLibrary;
 
 /// What the user has set: thirteen values, read from the store once, written to it on every assignment.
 ///
-/// Nothing is clamped or validated. A stored value that is missing or unreadable counts as the default.
+/// Nothing is clamped or validated but that minutes fit when counted in seconds. A stored value that is missing or
+/// unreadable counts as the default.
 /// Main thread only.
 class AppSettings : public ObservableObject {
 public:

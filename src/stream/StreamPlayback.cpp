@@ -114,9 +114,7 @@ GstElement* makeElement(const char* kind)
 GstElement* makeOutput()
 {
     // Waits for no clock: sound that comes late is still to be heard.
-    auto* output = gst_element_factory_make("pulsesink", nullptr);
-    if (!output)
-        return makeElement("autoaudiosink");
+    auto* output = makeElement("pulsesink");
     auto* properties = gst_structure_new("properties", "media.role", G_TYPE_STRING, "music", "media.name",
         G_TYPE_STRING, "velto", "application.name", G_TYPE_STRING, "velto", "application.id", G_TYPE_STRING,
         "org.velto.Velto", "application.icon_name", G_TYPE_STRING, "org.velto.Velto", nullptr);
