@@ -6,7 +6,7 @@ import threading
 import time
 from bisect import bisect
 
-from machine import time_queued, time_worked
+from machine import pages_fetched, time_queued, time_worked
 
 _SIGNAL = re.compile(r"signal time=(\S+) ")
 _LABEL = re.compile(r'   string "(\d+):(\d\d)"')
@@ -21,7 +21,7 @@ class Countdown:
         self._desktop, self._speed = desktop, speed
         self.heard, self.phases = [], 0
         self._breaks = []  # (from, to) on the wall clock: whatever was done then may have stopped the countdown
-        self._samples = []  # (when on the wall clock, how long programs had waited for a processor, and velto worked)
+        self._samples = []  # (when on the wall clock, how long programs had waited for a processor, velto's costs)
 
     def listen(self):
         """To the session bus there is now, until it goes."""
@@ -51,19 +51,19 @@ class Countdown:
         self._breaks.append((begin, time.time() + 0.1))
 
     def watch(self, velto, others):
-        """Notes how much a busy machine holds up these processes, and how much velto works, until the end of this
-        process."""
+        """Notes how much a busy machine holds up these processes, how much velto works and how many of its pages come
+        from the disk, until the end of this process."""
         def sample():
             while True:
                 queued = time_queued([velto, self._listener.pid, *others()])
-                self._samples.append((time.time(), queued, time_worked(velto)))
+                self._samples.append((time.time(), queued, (time_worked(velto), pages_fetched(velto))))
                 time.sleep(_MOMENT / 5)
         threading.Thread(target=sample, daemon=True).start()
 
     def lateness(self):
         """How late each second came that continues the one before, on the wall clock: (without the time for which a
-        processor was missing, with it, when, how much velto worked in the half second before it was due and until
-        then)."""
+        processor was missing, with it, when, the seconds that velto worked and the pages that it fetched in the half
+        second before it was due and until then)."""
         heard, breaks, samples = list(self.heard), sorted(self._breaks), list(self._samples)
         result, base, at = [], None, 0
         for (before, more), (when, left) in zip(heard, heard[1:]):
@@ -78,9 +78,10 @@ class Countdown:
             due = base - left / self._speed
             late = when - due
             base = min(base, base + late)  # the earliest was in time
-            (_, queued, worked), (_, queued_then, worked_then) = (
+            (_, queued, costs), (_, queued_then, costs_then) = (
                 samples[min(bisect(samples, moment, key=lambda sample: sample[0]), len(samples) - 1)]
                 for moment in (due - _MOMENT, when))
             # less when a thread has ended
-            result.append((late - max(0, queued_then - queued), late, when, worked_then - worked))
+            result.append((late - max(0, queued_then - queued), late, when,
+                           *(then - before for before, then in zip(costs, costs_then))))
         return result
