@@ -124,7 +124,7 @@ void fillStandardStreams()
 {
     int file = 0;
     do
-        file = open("/dev/null", O_RDWR | O_CLOEXEC);
+        file = open("/dev/null", O_RDWR);
     while (file >= 0 && file <= STDERR_FILENO);
     close(file);
 }

@@ -68,21 +68,23 @@ void SettingsPortal::askForAll()
 
 void SettingsPortal::settingChanged(const QString& group, const QString& key, const QDBusVariant& value)
 {
-    keep(group, key, value.variant());
-    emit changed();
+    if (keep(group, key, value.variant()))
+        emit changed();
 }
 
-void SettingsPortal::keep(const QString& group, const QString& key, const QVariant& value)
+bool SettingsPortal::keep(const QString& group, const QString& key, const QVariant& value)
 {
     constexpr qsizetype mostSettings = 500;
     constexpr qsizetype longestText = 256;
     if (!m_groups.contains(group) || key.size() > longestText)
-        return;
+        return false;
     const bool isNumber = value.canConvert<double>() && value.typeId() != QMetaType::QString;
     const bool isText = value.typeId() == QMetaType::QString && value.toString().size() <= longestText;
     auto& settings = m_settings[group];
-    if ((isNumber || isText) && (settings.size() < mostSettings || settings.contains(key)))
-        settings[key] = value;
+    if (!(isNumber || isText) || (settings.size() >= mostSettings && !settings.contains(key)))
+        return false;
+    settings[key] = value;
+    return true;
 }
 
 QVariant SettingsPortal::setting(const char* group, const char* key) const

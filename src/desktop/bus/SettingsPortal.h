@@ -37,7 +37,8 @@ private slots:
 
 private:
     void askForAll();
-    void keep(const QString& group, const QString& key, const QVariant& value);
+    /// Whether it is of a kind that is kept.
+    bool keep(const QString& group, const QString& key, const QVariant& value);
 
     std::unique_ptr<QDBusServiceWatcher> m_portal; ///< On the bus that was asked last.
     QTimer m_nextTry;
