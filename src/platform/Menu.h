@@ -15,7 +15,7 @@ struct Menu;
 /// A picture by name, drawn in the colour of the text beside it.
 struct Symbol {
     std::string name;
-    std::string description; ///< For assistive technology. Menus on the session bus have no room for it.
+    std::string description; ///< For assistive technology. Menus shown today go by their titles alone.
     bool operator==(const Symbol&) const = default;
 };
 

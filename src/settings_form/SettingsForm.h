@@ -14,8 +14,8 @@ namespace velto {
 class AppSettings;
 class PomodoroTimer;
 
-/// A loudness as people read it: "25%" for 0.25. Fractions of a percent are cut off, except where
-/// `volume` is the float nearest to a whole percent.
+/// A loudness as people read it: "25%" for 0.25. Fractions of a percent are cut off, except where `volume` is the
+/// float nearest to a whole percent.
 [[nodiscard]] std::string percentText(float volume);
 
 /// The working copy behind the settings form: taken once, edited freely, then applied or cancelled.
