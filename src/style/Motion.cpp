@@ -16,6 +16,8 @@ namespace {
 class FrameClock final : public QAnimationDriver {
 public:
     using QAnimationDriver::QAnimationDriver;
+    // Else Qt goes on with a clock of its own, and says that it is too late for one.
+    ~FrameClock() override { FrameClock::stop(); }
 
 protected:
     void start() override

@@ -63,6 +63,17 @@ class TheProcess(unittest.TestCase):
 
         self.assertEqual(velto.wait(), 0)
 
+    def test_it_ends_without_a_word_while_something_moves(self):
+        velto = self.start({})
+        said = desktop.log("velto")
+
+        velto.press("Start")
+        wait_for(lambda: velto.item.label == "24:59", what="digits that roll")
+        velto.process.terminate()
+
+        self.assertEqual(velto.wait(), 0)
+        self.assertEqual(desktop.log("velto"), said)
+
     def test_nothing_it_opens_takes_the_place_of_a_closed_standard_stream(self):
         velto = desktop.run("sh", "-c", 'exec "$0" <&- >&- 2>&-', desktop.program)
         self.addCleanup(lambda: (velto.kill(), velto.wait()))
