@@ -59,6 +59,7 @@ void SettingsPortal::askForAll()
         if (reply.isError())
             return;
         const auto groups = reply.value();
+        m_settings.clear();
         for (auto group = groups.begin(); group != groups.end(); ++group)
             for (auto setting = group->begin(); setting != group->end(); ++setting)
                 keep(group.key(), setting.key(), setting.value());

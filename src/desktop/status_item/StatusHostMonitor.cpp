@@ -9,17 +9,20 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <chrono>
 #include <memory>
 #include <utility>
 
 using namespace std::chrono_literals;
+using std::chrono::milliseconds;
 
 namespace velto {
 
 namespace {
 
-constexpr auto pauseAfterSilence = 5s;
+constexpr milliseconds firstPause = 5s; ///< After silence; each further one is twice as long.
+constexpr milliseconds longestPause = 1min;
 
 /// Base name of the program that process `pid` runs; empty if it cannot be read.
 std::string programName(uint pid)
@@ -44,7 +47,6 @@ StatusHostMonitor::StatusHostMonitor(QDBusConnection bus) :
     m_watcher(statusNotifierWatcherService, m_bus, QDBusServiceWatcher::WatchForOwnerChange)
 {
     m_nextTry.setSingleShot(true);
-    m_nextTry.setInterval(pauseAfterSilence);
     connect(&m_nextTry, &QTimer::timeout, this, &StatusHostMonitor::askForHosts);
     connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
         [this](const QString&, const QString&, const QString& owner) { watcherOwnerChanged(owner); });
@@ -88,8 +90,8 @@ void StatusHostMonitor::askForHosts()
         if (inquiry != m_latest.lock())
             return;
         if (!registered.isValid()) {
-            m_isSilent = true;
-            m_nextTry.start();
+            const auto lastPause = m_nextTry.intervalAsDuration();
+            m_nextTry.start(std::exchange(m_isSilent, true) ? std::min(2 * lastPause, longestPause) : firstPause);
             setHost(std::nullopt);
             return;
         }

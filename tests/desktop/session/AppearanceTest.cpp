@@ -116,6 +116,20 @@ TEST_F(AppearanceTest, APortalThatComesLaterIsAskedToo)
     EXPECT_TRUE(comesTo(Theme::dark));
 }
 
+TEST_F(AppearanceTest, WhatTheNextPortalDoesNotTellOfIsForgotten)
+{
+    Appearance subject{bus};
+    {
+        FakePortal portal;
+        portal.groups[appearance]["color-scheme"] = 1u;
+        ASSERT_TRUE(comesTo(Theme::dark));
+    }
+    FakePortal portal;
+    portal.groups[appearance]["contrast"] = 0u;
+
+    EXPECT_TRUE(comesTo(Theme::light));
+}
+
 TEST_F(AppearanceTest, KeepsNoMoreThanADesktopHas)
 {
     SettingsPortal settings({appearance});

@@ -204,6 +204,16 @@ TEST_F(DesktopStatusItemTest, AsksAWatcherAgainThatDidNotAnswer)
     EXPECT_TRUE(eventually([] { return shown<StripWindow>() == nullptr; }));
 }
 
+TEST_F(DesktopStatusItemTest, AsksAWatcherThatNeverAnswersEverLessOften)
+{
+    FakeWatcher watcher;
+    watcher.leave();
+
+    QTest::qWait(13'000);
+
+    EXPECT_EQ(watcher.refusals(), 2) << "At the start and after 5 seconds; then after 10 more.";
+}
+
 TEST_F(DesktopStatusItemTest, ComesBackWithTheBus)
 {
     {

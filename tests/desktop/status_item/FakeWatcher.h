@@ -2,6 +2,9 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
 #include <QObject>
 #include <QStringList>
 
@@ -25,11 +28,19 @@ public:
 
     void serve()
     {
+        m_bus.unregisterObject(QStringLiteral("/StatusNotifierWatcher"));
         m_bus.registerObject(QStringLiteral("/StatusNotifierWatcher"), this, QDBusConnection::ExportScriptableContents);
     }
 
     /// Answers with errors from now on, under its name.
-    void leave() { m_bus.unregisterObject(QStringLiteral("/StatusNotifierWatcher")); }
+    void leave()
+    {
+        m_bus.unregisterObject(QStringLiteral("/StatusNotifierWatcher"));
+        m_bus.registerVirtualObject(QStringLiteral("/StatusNotifierWatcher"), &m_refusal);
+    }
+
+    /// How often it was asked for a host and answered with an error.
+    [[nodiscard]] int refusals() const { return m_refusal.count; }
 
     void setHasHost(bool hasHost)
     {
@@ -50,7 +61,20 @@ Q_SIGNALS:
     Q_SCRIPTABLE void StatusNotifierHostUnregistered();
 
 private:
+    class Refusal final : public QDBusVirtualObject {
+    public:
+        [[nodiscard]] QString introspect(const QString& /*path*/) const override { return {}; }
+        bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override
+        {
+            count += message.member() == u"Get";
+            return bus.send(message.createErrorReply(QDBusError::Failed, QStringLiteral("no")));
+        }
+
+        int count = 0;
+    };
+
     inline static int m_count = 0;
+    Refusal m_refusal;
     QDBusConnection m_bus;
     bool m_hasHost;
 };
