@@ -29,10 +29,19 @@ def time_worked(pid):
     return sum(_stat(pid, 11, 13)) / os.sysconf("SC_CLK_TCK")
 
 
-def pages_fetched(pid):
-    """How often the process has had to wait so far until a page of its memory was read from the disk. 0 when it has
-    ended."""
-    return sum(_stat(pid, 9, 10))
+def time_for_disk(pids):
+    """How long the main threads of these processes have waited for the disk so far, in seconds. 0 where the system does
+    not count it: `sysctl kernel.task_delayacct=1`."""
+    return sum(sum(_stat(pid, 39, 40)) for pid in pids) / os.sysconf("SC_CLK_TCK")
+
+
+def system_call(pid):
+    """The number of the system call in which the process waits; "running" outside of one, empty when it has ended."""
+    try:
+        with open(f"/proc/{pid}/syscall", encoding="ascii") as file:
+            return file.read().split()[0]
+    except OSError:
+        return ""
 
 
 def _stat(pid, first, end):

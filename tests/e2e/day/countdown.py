@@ -6,7 +6,7 @@ import threading
 import time
 from bisect import bisect
 
-from machine import pages_fetched, time_queued, time_worked
+from machine import system_call, time_for_disk, time_queued, time_worked
 
 _SIGNAL = re.compile(r"signal time=(\S+) ")
 _LABEL = re.compile(r'   string "(\d+):(\d\d)"')
@@ -22,6 +22,7 @@ class Countdown:
         self.heard, self.phases = [], 0
         self._breaks = []  # (from, to) on the wall clock: whatever was done then may have stopped the countdown
         self._samples = []  # (when on the wall clock, how long programs had waited for a processor, velto's costs)
+        self._calls = []  # (when on the wall clock, the system call in which each program was)
 
     def listen(self):
         """To the session bus there is now, until it goes."""
@@ -51,18 +52,19 @@ class Countdown:
         self._breaks.append((begin, time.time() + 0.1))
 
     def watch(self, velto, others):
-        """Notes how much a busy machine holds up these processes, how much velto works and how many of its pages come
-        from the disk, until the end of this process."""
+        """Notes how much a busy machine holds up these processes, how much velto works and what they wait for, until
+        the end of this process."""
         def sample():
             while True:
-                queued = time_queued([velto, self._listener.pid, *others()])
-                self._samples.append((time.time(), queued, (time_worked(velto), pages_fetched(velto))))
+                processes = [velto, self._listener.pid, *others()]
+                self._samples.append((time.time(), time_queued(processes), (time_worked(velto), time_for_disk(processes))))
+                self._calls.append((time.time(), [system_call(pid) for pid in processes]))
                 time.sleep(_MOMENT / 5)
         threading.Thread(target=sample, daemon=True).start()
 
     def lateness(self):
         """How late each second came that continues the one before, on the wall clock: (without the time for which a
-        processor was missing, with it, when, the seconds that velto worked and the pages that it fetched in the half
+        processor was missing, with it, when, the seconds that velto worked and that all waited for the disk in the half
         second before it was due and until then)."""
         heard, breaks, samples = list(self.heard), sorted(self._breaks), list(self._samples)
         result, base, at = [], None, 0
@@ -85,3 +87,7 @@ class Countdown:
             result.append((late - max(0, queued_then - queued), late, when,
                            *(then - before for before, then in zip(costs, costs_then))))
         return result
+
+    def calls_before(self, moment):
+        """The system calls in which velto, the listener and the others were during the last half second."""
+        return [calls for when, calls in list(self._calls) if moment - _MOMENT <= when <= moment]

@@ -49,7 +49,8 @@ class Day(unittest.TestCase):
             {"focusMinutes": 1, "breakMinutes": 1, "autoTransition": True, "focusMusicPreset": b'"Custom URL"',
              "breakMusicPreset": b'"Custom URL"', "focusCustomURL": url, "breakCustomURL": url}, ENVIRONMENT | FAST | path)
         self.countdown.watch(
-            self.velto.pid, lambda: [os.getpid(), self.desktop.x_server.pid, self.desktop.bus_daemon.pid])
+            self.velto.pid, lambda: [os.getpid(), self.desktop.x_server.pid, self.desktop.bus_daemon.pid,
+                                     self.window_manager.pid])
         self.places = self.places_in_the_form()
 
     # The form, by mouse and keyboard: accessibility ends with the bus it began on
@@ -270,11 +271,11 @@ class Day(unittest.TestCase):
         lateness = self.countdown.lateness()
         early, late = usage.within(SETTLED, 2 * SETTLED), usage.within(PHASES - SETTLED, PHASES)
         least = usage.within(SETTLED, 2 * SETTLED, min), usage.within(PHASES - SETTLED, PHASES, min)
-        latest, _, when, worked, fetched = max(lateness)
+        latest, _, when, worked, disk = max(lateness)
         print(f"\n{summary}\n{len(self.countdown.heard)} seconds heard, of {len(lateness)} the latest by "
               f"{max(raw for _, raw, *_ in lateness):.3f} s, {latest:.3f} s without waiting for a processor, "
-              f"while velto worked {worked:.2f} s, waited for {fetched} pages from the disk and did "
-              f"{self.done_before(when)}\n"
+              f"while velto worked {worked:.2f} s, the disk was waited for {disk:.2f} s, after {self.done_before(when)}, "
+              f"in the calls {self.countdown.calls_before(when)}\n"
               f"median after {SETTLED} phases {early}\nmedian at the end {late}\n"
               f"least after {SETTLED} phases {least[0]}\nleast at the end {least[1]}", flush=True)
         for error in sorted(set(self.missed)):
