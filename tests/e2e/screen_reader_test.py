@@ -76,11 +76,11 @@ class Spoken(unittest.TestCase):
 
         self.open_menu_and_go_up("Quit", "About velto", "How to Use")
         self.press("Return", hear=["How to Use velto dialog Welcome to velto"])
-        self.press("Escape", hear=["other"])
+        self.press("Escape", hear=["text"])
         self.press("ctrl+alt+v", hear=["Start"])
         self.open_menu_and_go_up("Quit", "About velto")
         self.press("Return", hear=["About velto dialog", "Support"])
-        self.press("Escape", hear=["other"])
+        self.press("Escape", hear=["text"])
         self.press("ctrl+alt+v", hear=["Start"])
         self.open_menu_and_go_up("Quit")
         self.press("Return")

@@ -46,6 +46,8 @@ _OPENBOX = """<?xml version="1.0" encoding="UTF-8"?>
 </openbox_config>
 """
 
+# What Qt says of a program that uses it wrongly; of a screen reader that does not answer it complains, too.
+_MISUSE = re.compile(r"^Q(?!Spi)\w+::.*", re.MULTILINE)
 _TIME = re.compile(r"\d{2,}:\d\d")
 _ANNOUNCEMENT = re.compile(r'signal time=(\S+) sender=(\S+) .*member=XAyatanaNewLabel\n   string "([^"]*)"\n')
 
@@ -197,8 +199,11 @@ class VirtualDesktop:
             raise
         return self
 
-    def __exit__(self, *_):
+    def __exit__(self, error, *_):
+        misuse = "" if error or self._verbose else _MISUSE.findall(self.log("velto"))
         self.close()
+        if misuse:
+            raise AssertionError(f"Qt complains of velto: {misuse}")
 
     def close(self):
         self._guard.stdin.close()
@@ -407,9 +412,12 @@ class VirtualDesktop:
         return field
 
     def log(self, program):
-        """What `program` wrote on standard error so far."""
-        with open(self.path(f"log/{program}.log"), encoding="utf-8", errors="replace") as file:
-            return file.read()
+        """What `program` wrote on standard error so far; empty when it was never started."""
+        try:
+            with open(self.path(f"log/{program}.log"), encoding="utf-8", errors="replace") as file:
+                return file.read()
+        except FileNotFoundError:
+            return ""
 
     def application(self, pid, scale=1):
         """The accessibility tree of process `pid`, whose toolkit calls `scale` pixels one; LookupError without

@@ -75,7 +75,7 @@ class SettingsForm(unittest.TestCase):
         sheet.click("Apply")
 
         self.settings_become(DEFAULTS)
-        self.assertEqual(self.velto.time, "25:00")
+        wait_for(lambda: self.velto.time == "25:00")
 
     def test_an_untouched_form_stores_all_thirteen_settings_with_their_types(self):
         self.start()
