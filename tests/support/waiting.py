@@ -9,7 +9,7 @@ def wait_for(condition, timeout=30, what=None):
     """Asks `condition` until it answers something true, and returns that. A LookupError or a D-Bus
     error counts as "not yet". Fails with an AssertionError that names `what` after `timeout` seconds."""
     give_up = time.monotonic() + timeout
-    last = None
+    last, pause = None, 0.02
     while True:
         try:
             last = condition()
@@ -19,7 +19,8 @@ def wait_for(condition, timeout=30, what=None):
             last = error
         if time.monotonic() > give_up:
             raise AssertionError(f"Not within {timeout} s: {what or condition.__name__}; last: {last!r}")
-        time.sleep(0.02)
+        time.sleep(pause)
+        pause = min(1.2 * pause, 0.1)  # who waits long need not be told at once, and asking costs
 
 
 def holds(condition, seconds, what=None):

@@ -67,7 +67,7 @@ class Countdown:
         processor was missing, with it, when, the seconds that velto worked and that all waited for the disk in the half
         second before it was due and until then)."""
         heard, breaks, samples = list(self.heard), sorted(self._breaks), list(self._samples)
-        result, base, at = [], None, 0
+        result, base, at, interval = [], None, 0, 1 / self._speed
         for (before, more), (when, left) in zip(heard, heard[1:]):
             while at < len(breaks) and breaks[at][1] < before:
                 at += 1
@@ -76,10 +76,11 @@ class Countdown:
                 base = None
                 continue
             if base is None:
-                base = before + more / self._speed
-            due = base - left / self._speed
+                base = before + more * interval
+            due = base - left * interval
             late = when - due
-            base = min(base, base + late)  # the earliest was in time
+            # The earliest was in time, and after one so late that others were left out the next are due later.
+            base += late if late < 0 else late // interval * interval
             (_, queued, costs), (_, queued_then, costs_then) = (
                 samples[min(bisect(samples, moment, key=lambda sample: sample[0]), len(samples) - 1)]
                 for moment in (due - _MOMENT, when))
