@@ -24,6 +24,7 @@
 #include "desktop/windows/QtPanelWindow.h"
 #include "desktop/windows/QtScreens.h"
 #include "desktop/windows/SheetWindow.h"
+#include "desktop/x11/StaleMapFilter.h"
 #include "menubar/StatusBarController.h"
 #include "observation/NotificationCenter.h"
 #include "panel/PanelContainerView.h"
@@ -63,6 +64,7 @@ int run(QApplication& application)
 
     const BackgroundOutput output(std::cout, STDOUT_FILENO);
     const Appearance appearance(bus);
+    const x11::StaleMapFilter staleMaps;
     QtRunLoop runLoop;
     QtScreens screens(runLoop);
     QtApplication desktopApplication;
