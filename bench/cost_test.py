@@ -51,8 +51,8 @@ class Cost(unittest.TestCase):
               f"the floor {of_floor[0]:.2%} and {of_floor[1]:.1f}; "
               f"memory {memory([velto])[0]:.1f} MiB, the floor {memory([floor])[0]:.1f} MiB")
         # Once, half a minute after the start, Qt clears the cache of its pictures.
-        self.assertLess(of_resting_card[1], 2 / SECONDS, "at rest with the card on show")
-        self.assertLess(of_resting[1], 2 / SECONDS, "at rest with the card hidden")
+        self.assertLess(of_resting_card[1], 1.5 / SECONDS, "at rest with the card on show")
+        self.assertLess(of_resting[1], 1.5 / SECONDS, "at rest with the card hidden")
         # Four outlined digits are drawn against two plain ones: twice the instructions, and up to four times the
         # time where the processor has slept in between.
         self.assertLess(of_velto[0], 6 * of_floor[0])

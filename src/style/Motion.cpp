@@ -16,7 +16,7 @@ namespace {
 class FrameClock final : public QAnimationDriver {
 public:
     using QAnimationDriver::QAnimationDriver;
-    // Else Qt goes on with a clock of its own, and says that it is too late for one.
+    // Otherwise Qt switches to its own clock, and warns that it can no longer start one.
     ~FrameClock() override { FrameClock::stop(); }
 
 protected:

@@ -31,6 +31,8 @@ class Spoken(unittest.TestCase):
                 missed = error
         raise missed
 
+    # "text" is the field of the other window; its title is not always said.
+
     def press(self, *keys, hear=()):
         self.desktop.key(*keys)
         self.reader.hear(*hear)

@@ -36,7 +36,8 @@ def time_for_disk(pids):
 
 
 def system_call(pid):
-    """The number of the system call in which the process waits; "running" outside of one, empty when it has ended."""
+    """The number of the system call in which the process waits; "running" when it does not, "-1" when it waits outside
+    of one, as for a page of its memory. Empty when it has ended or may not be asked."""
     try:
         with open(f"/proc/{pid}/syscall", encoding="ascii") as file:
             return file.read().split()[0]

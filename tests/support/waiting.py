@@ -8,8 +8,8 @@ from gi.repository import GLib
 def wait_for(condition, timeout=30, what=None):
     """Asks `condition` until it answers something true, and returns that. A LookupError or a D-Bus
     error counts as "not yet". Fails with an AssertionError that names `what` after `timeout` seconds."""
-    give_up = time.monotonic() + timeout
-    last, pause = None, 0.02
+    begin = time.monotonic()
+    last = None
     while True:
         try:
             last = condition()
@@ -17,10 +17,10 @@ def wait_for(condition, timeout=30, what=None):
                 return last
         except (LookupError, GLib.Error) as error:
             last = error
-        if time.monotonic() > give_up:
+        waited = time.monotonic() - begin
+        if waited > timeout:
             raise AssertionError(f"Not within {timeout} s: {what or condition.__name__}; last: {last!r}")
-        time.sleep(pause)
-        pause = min(1.2 * pause, 0.1)  # who waits long need not be told at once, and asking costs
+        time.sleep(0.02 if waited < 2 else 0.1)  # long waits need no fine steps, and asking costs
 
 
 def holds(condition, seconds, what=None):

@@ -23,7 +23,7 @@ class SettingsPortal final : public QObject {
 public:
     explicit SettingsPortal(QStringList groups);
 
-    /// What is known stays until the answer comes. No effect without a bus.
+    /// What is known stays until the answer comes; an error is none. No effect without a bus.
     void ask(QDBusConnection bus);
 
     /// Invalid while it is not known.

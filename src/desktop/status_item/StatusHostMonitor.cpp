@@ -21,7 +21,7 @@ namespace velto {
 
 namespace {
 
-constexpr milliseconds firstPause = 5s; ///< After silence; each further one is twice as long.
+constexpr milliseconds firstPause = 5s; ///< After silence; each further one in a row is twice as long.
 constexpr milliseconds longestPause = 1min;
 
 /// Base name of the program that process `pid` runs; empty if it cannot be read.
@@ -44,10 +44,14 @@ struct StatusHostMonitor::Inquiry {
 
 StatusHostMonitor::StatusHostMonitor(QDBusConnection bus) :
     m_bus(std::move(bus)),
-    m_watcher(statusNotifierWatcherService, m_bus, QDBusServiceWatcher::WatchForOwnerChange)
+    m_watcher(statusNotifierWatcherService, m_bus, QDBusServiceWatcher::WatchForOwnerChange),
+    m_pause(firstPause)
 {
     m_nextTry.setSingleShot(true);
-    connect(&m_nextTry, &QTimer::timeout, this, &StatusHostMonitor::askForHosts);
+    m_nextTry.callOnTimeout([this] {
+        m_pause = std::min(2 * m_pause, longestPause);
+        askForHosts();
+    });
     connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
         [this](const QString&, const QString&, const QString& owner) { watcherOwnerChanged(owner); });
     for (const auto* signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
@@ -69,6 +73,7 @@ void StatusHostMonitor::watcherOwnerChanged(const QString& owner)
         return;
     m_owner = owner;
     m_isSilent = false;
+    m_pause = firstPause;
     askForHosts();
     if (!m_owner.isEmpty())
         Q_EMIT watcherAppeared();
@@ -90,11 +95,12 @@ void StatusHostMonitor::askForHosts()
         if (inquiry != m_latest.lock())
             return;
         if (!registered.isValid()) {
-            const auto lastPause = m_nextTry.intervalAsDuration();
-            m_nextTry.start(std::exchange(m_isSilent, true) ? std::min(2 * lastPause, longestPause) : firstPause);
+            m_isSilent = true;
+            m_nextTry.start(m_pause);
             setHost(std::nullopt);
             return;
         }
+        m_pause = firstPause;
         if (std::exchange(m_isSilent, false))
             Q_EMIT watcherAppeared();
         if (!registered.value().variant().toBool()) {

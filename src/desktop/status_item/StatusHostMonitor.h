@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <chrono>
 #include <optional>
 
 class QDBusPendingCall;
@@ -51,6 +52,7 @@ private:
     QString m_owner;         ///< Unique name of the watcher; empty without one.
     bool m_isSilent = false; ///< The watcher did not answer when it was asked last, or with an error.
     QTimer m_nextTry;
+    std::chrono::milliseconds m_pause; ///< Before the next try.
     std::weak_ptr<Inquiry> m_latest;
     std::optional<StatusHostFacts> m_host;
 };

@@ -5,8 +5,8 @@
 
 namespace velto::x11 {
 
-/// Keeps from Qt the word of a window's mapping that comes after the window was hidden again. Qt would take it for
-/// mapped, and complain when it is shown next.
+/// Hides a MapNotify from Qt that arrives after its window was hidden again: Qt would believe the window mapped, and
+/// warn when it is shown next.
 ///
 /// No effect where there is no X11. Main thread only.
 class StaleMapFilter final : public QAbstractNativeEventFilter {

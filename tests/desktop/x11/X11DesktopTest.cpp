@@ -2,7 +2,6 @@
 #include "desktop/x11/X11Desktop.h"
 
 #include "desktop/x11/Activation.h"
-#include "desktop/x11/StaleMapFilter.h"
 #include "fixtures/Desktop.h"
 
 #include <gtest/gtest.h>
@@ -84,28 +83,6 @@ private:
     xcb_connection_t* m_connection;
 };
 
-/// Shows a window again between the word of its mapping and that of its end.
-class ShownInBetween final : public QAbstractNativeEventFilter {
-public:
-    explicit ShownInBetween(QWindow& window) : m_window(window) { qApp->installNativeEventFilter(this); }
-
-    bool nativeEventFilter(const QByteArray& /*eventType*/, void* message, qintptr* /*result*/) override
-    {
-        const auto* event = static_cast<const xcb_unmap_notify_event_t*>(message);
-        if ((event->response_type & 0x7f) == XCB_UNMAP_NOTIFY && event->window == m_window.winId() && !m_isDone) {
-            m_isDone = true;
-            m_window.show();
-        }
-        return false;
-    }
-
-    [[nodiscard]] bool isDone() const { return m_isDone; }
-
-private:
-    QWindow& m_window;
-    bool m_isDone = false;
-};
-
 } // namespace
 
 TEST(X11DesktopTest, TheEndOfAStartIsToldInPieces)
@@ -138,25 +115,6 @@ TEST(X11DesktopTest, WhatComesToTheFrontDoesSoAtThePresentTime)
     ASSERT_TRUE(time);
     EXPECT_GE(*time, before);
     EXPECT_LE(*time, after);
-}
-
-TEST(StaleMapFilterTest, AWindowHiddenAndShownAtOnceIsNothingToComplainOf)
-{
-    const x11::StaleMapFilter filter;
-    static std::string complaints;
-    complaints.clear();
-    QWindow window;
-    window.setFlag(Qt::BypassWindowManagerHint);
-    window.show();
-    window.hide();
-    const ShownInBetween shown(window);
-    const auto before = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext&, const QString& text) { complaints += text.toStdString(); });
-
-    EXPECT_TRUE(QTest::qWaitFor([&] { return shown.isDone() && window.isExposed(); }));
-
-    qInstallMessageHandler(before);
-    EXPECT_EQ(complaints, "");
 }
 
 } // namespace velto

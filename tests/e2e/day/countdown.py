@@ -20,6 +20,7 @@ class Countdown:
     def __init__(self, desktop, speed):
         self._desktop, self._speed = desktop, speed
         self.heard, self.phases = [], 0
+        self.left_out = 0  # seconds, for no lack of a processor, that lateness() has found
         self._breaks = []  # (from, to) on the wall clock: whatever was done then may have stopped the countdown
         self._samples = []  # (when on the wall clock, how long programs had waited for a processor, velto's costs)
         self._calls = []  # (when on the wall clock, the system call in which each program was)
@@ -52,22 +53,24 @@ class Countdown:
         self._breaks.append((begin, time.time() + 0.1))
 
     def watch(self, velto, others):
-        """Notes how much a busy machine holds up these processes, how much velto works and what they wait for, until
-        the end of this process."""
+        """Notes how much a busy machine holds up velto and `others()`, {name: pid}, how much velto works and what they
+        wait for, until the end of this process."""
         def sample():
             while True:
-                processes = [velto, self._listener.pid, *others()]
-                self._samples.append((time.time(), time_queued(processes), (time_worked(velto), time_for_disk(processes))))
-                self._calls.append((time.time(), [system_call(pid) for pid in processes]))
+                processes = {"velto": velto, "listener": self._listener.pid, **others()}
+                pids = list(processes.values())
+                self._samples.append((time.time(), time_queued(pids), (time_worked(velto), time_for_disk(pids))))
+                self._calls.append((time.time(), {name: system_call(pid) for name, pid in processes.items()}))
                 time.sleep(_MOMENT / 5)
         threading.Thread(target=sample, daemon=True).start()
 
     def lateness(self):
         """How late each second came that continues the one before, on the wall clock: (without the time for which a
         processor was missing, with it, when, the seconds that velto worked and that all waited for the disk in the half
-        second before it was due and until then)."""
+        second before it was due and until then). Seconds that were left out since are due as much later: each lateness
+        is that of one."""
         heard, breaks, samples = list(self.heard), sorted(self._breaks), list(self._samples)
-        result, base, at, interval = [], None, 0, 1 / self._speed
+        result, base, at, interval, self.left_out = [], None, 0, 1 / self._speed, 0
         for (before, more), (when, left) in zip(heard, heard[1:]):
             while at < len(breaks) and breaks[at][1] < before:
                 at += 1
@@ -79,16 +82,16 @@ class Countdown:
                 base = before + more * interval
             due = base - left * interval
             late = when - due
-            # The earliest was in time, and after one so late that others were left out the next are due later.
-            base += late if late < 0 else late // interval * interval
+            base += late if late < 0 else late // interval * interval  # the earliest was in time
             (_, queued, costs), (_, queued_then, costs_then) = (
                 samples[min(bisect(samples, moment, key=lambda sample: sample[0]), len(samples) - 1)]
                 for moment in (due - _MOMENT, when))
             # less when a thread has ended
-            result.append((late - max(0, queued_then - queued), late, when,
-                           *(then - before for before, then in zip(costs, costs_then))))
+            lateness = late - max(0, queued_then - queued)
+            self.left_out += max(0, int(lateness / interval))
+            result.append((lateness, late, when, *(then - before for before, then in zip(costs, costs_then))))
         return result
 
     def calls_before(self, moment):
-        """The system calls in which velto, the listener and the others were during the last half second."""
+        """The system calls in which each process was during the last half second."""
         return [calls for when, calls in list(self._calls) if moment - _MOMENT <= when <= moment]
