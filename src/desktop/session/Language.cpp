@@ -12,7 +12,7 @@ namespace {
 
 bool install(const QString& catalogue, const QString& folder)
 {
-    auto* translator = new QTranslator(qApp);
+    auto* translator = new QTranslator(QCoreApplication::instance());
     return translator->load(catalogue, folder) && QCoreApplication::installTranslator(translator);
 }
 
