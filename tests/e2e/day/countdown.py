@@ -20,7 +20,6 @@ class Countdown:
     def __init__(self, desktop, speed):
         self._desktop, self._speed = desktop, speed
         self.heard, self.phases = [], 0
-        self.left_out = 0  # seconds, for no lack of a processor, that lateness() has found
         self._breaks = []  # (from, to) on the wall clock: whatever was done then may have stopped the countdown
         self._samples = []  # (when on the wall clock, how long programs had waited for a processor, velto's costs)
         self._calls = []  # (when on the wall clock, the system call in which each program was)
@@ -70,7 +69,7 @@ class Countdown:
         second before it was due and until then). Seconds that were left out since are due as much later: each lateness
         is that of one."""
         heard, breaks, samples = list(self.heard), sorted(self._breaks), list(self._samples)
-        result, base, at, interval, self.left_out = [], None, 0, 1 / self._speed, 0
+        result, base, at, interval = [], None, 0, 1 / self._speed
         for (before, more), (when, left) in zip(heard, heard[1:]):
             while at < len(breaks) and breaks[at][1] < before:
                 at += 1
@@ -87,9 +86,8 @@ class Countdown:
                 samples[min(bisect(samples, moment, key=lambda sample: sample[0]), len(samples) - 1)]
                 for moment in (due - _MOMENT, when))
             # less when a thread has ended
-            lateness = late - max(0, queued_then - queued)
-            self.left_out += max(0, int(lateness / interval))
-            result.append((lateness, late, when, *(then - before for before, then in zip(costs, costs_then))))
+            result.append((late - max(0, queued_then - queued), late, when,
+                           *(then - before for before, then in zip(costs, costs_then))))
         return result
 
     def calls_before(self, moment):
