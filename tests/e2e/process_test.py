@@ -2,6 +2,7 @@
 """The life of the process: one of it, and settings that outlive it."""
 import os
 import signal
+import socket
 import stat
 import subprocess
 import time
@@ -97,7 +98,7 @@ class TheProcess(unittest.TestCase):
     def run_alone(self, *arguments, **environment):
         """What the program does with these arguments, and with these variables set, or unset where None."""
         changed = desktop.environment | environment
-        return subprocess.run([desktop.program, *arguments], capture_output=True, text=True, timeout=20,
+        return subprocess.run([desktop.program, *arguments], capture_output=True, text=True, timeout=40,
                               env={name: value for name, value in changed.items() if value is not None})
 
     def test_without_a_display_it_fails_with_one_line(self):
@@ -107,6 +108,17 @@ class TheProcess(unittest.TestCase):
 
                 self.assertEqual((result.returncode, result.stdout), (1, ""))
                 self.assertRegex(result.stderr, r"\Avelto: there is no display.*\n\Z")
+
+    def test_with_a_session_bus_that_hangs_it_fails_with_one_line(self):
+        with socket.socket(socket.AF_UNIX) as bus:
+            bus.bind(desktop.path("runtime/hanging-bus"))
+            bus.listen()
+            begin = time.monotonic()
+            result = self.run_alone(DBUS_SESSION_BUS_ADDRESS=f"unix:path={bus.getsockname()}")
+
+        self.assertEqual((result.returncode, result.stdout, result.stderr),
+                         (1, "", "velto: the session bus does not answer\n"))
+        self.assertGreater(time.monotonic() - begin, 24, "a bus that starts slowly is waited for")
 
     def test_version_and_help_need_no_display(self):
         version = self.run_alone("--version", DISPLAY=None)

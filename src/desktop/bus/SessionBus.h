@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/bus/BusProbe.h"
+
 #include <QDBusConnection>
 #include <QObject>
 #include <QTimer>
+
+#include <memory>
 
 namespace velto {
 
@@ -17,12 +21,17 @@ class SessionBus final : public QObject {
     Q_OBJECT
 
 public:
-    /// `name` identifies the connection within the program and must be unique there.
+    /// `name` identifies the connection within the program and must be unique there. Waits for the bus as long as it
+    /// hangs; one that comes back is not waited for.
     explicit SessionBus(QString name);
     ~SessionBus() override;
 
+    /// Whether there is a session bus that has not answered within 25 s, which this waits for. Qt's application object
+    /// would wait for ever. Needs no application.
+    [[nodiscard]] static bool hangs();
+
     /// Not connected while there is no bus. A new one after each `found()`, with nothing registered on it.
-    [[nodiscard]] QDBusConnection connection() const { return QDBusConnection(m_name); }
+    [[nodiscard]] QDBusConnection connection() const { return m_connection; }
 
 Q_SIGNALS:
     void lost();
@@ -33,9 +42,12 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] bool connectToBus();
+    void probe();
 
     QString m_name;
+    QDBusConnection m_connection{QString()};
     QTimer m_retry;
+    std::unique_ptr<BusProbe> m_probe;
 };
 
 } // namespace velto

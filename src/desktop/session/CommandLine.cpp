@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/session/CommandLine.h"
 
+#include "desktop/bus/SessionBus.h"
 #include "desktop/session/BuildBundle.h"
 #include "desktop/x11/X11Desktop.h"
 
@@ -48,6 +49,10 @@ std::optional<int> answerBeforeStart(int argc, char* argv[])
     }
     if (needsX11(arguments) && !x11::serverAnswers()) {
         std::cerr << "velto: there is no display; velto needs an X server, which on Wayland is XWayland\n";
+        return 1;
+    }
+    if (SessionBus::hangs()) {
+        std::cerr << "velto: the session bus does not answer\n";
         return 1;
     }
     return std::nullopt;

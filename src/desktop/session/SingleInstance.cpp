@@ -39,7 +39,9 @@ SingleInstance::SingleInstance(SessionBus& bus, std::function<void()> activated)
 {
     connect(&m_bus, &SessionBus::found, this, [this] {
         m_bus.connection().registerObject(objectPath, this, QDBusConnection::ExportAllSlots);
-        m_bus.connection().interface()->registerService(serviceName);
+        // Not waited for: with another velto in the way, this one goes on without the name.
+        constexpr uint doNotQueue = 4;
+        m_bus.connection().interface()->asyncCall(QStringLiteral("RequestName"), serviceName, doNotQueue);
     });
 }
 
