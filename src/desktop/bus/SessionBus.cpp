@@ -14,7 +14,7 @@ namespace {
 
 QByteArray address()
 {
-    if (const auto stated = qgetenv("DBUS_SESSION_BUS_ADDRESS"); !stated.isEmpty())
+    if (auto stated = qgetenv("DBUS_SESSION_BUS_ADDRESS"); !stated.isEmpty())
         return stated;
     return "unix:path=" + QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation).toUtf8() + "/bus";
 }

@@ -47,6 +47,31 @@ xcb_window_t unseenWindow(const char* type)
     return window;
 }
 
+bool isFullScreen(xcb_window_t window)
+{
+    const auto states = x11::property(window, x11::atom("_NET_WM_STATE"));
+    return std::ranges::count(states, x11::atom("_NET_WM_STATE_FULLSCREEN")) > 0
+        && std::ranges::count(states, x11::atom("_NET_WM_STATE_HIDDEN")) == 0;
+}
+
+QRect mainScreen()
+{
+    const auto* screen = QGuiApplication::primaryScreen();
+    return screen ? toPixels(screen->geometry(), *screen) : QRect();
+}
+
+bool standsOnMainScreen(xcb_window_t window)
+{
+    const auto area = x11::geometry(window);
+    return area && mainScreen().contains(area->center());
+}
+
+bool fillsMainScreen(xcb_window_t window)
+{
+    const auto area = isFullScreen(window) && x11::isViewable(window) ? x11::geometry(window) : std::nullopt;
+    return area && area->contains(mainScreen().center());
+}
+
 } // namespace
 
 FullScreenWatch::FullScreenWatch()
@@ -77,16 +102,24 @@ bool FullScreenWatch::nativeEventFilter(const QByteArray& /*eventType*/, void* m
     static const auto active = x11::atom("_NET_ACTIVE_WINDOW");
     static const auto state = x11::atom("_NET_WM_STATE");
     const auto* event = static_cast<const xcb_generic_event_t*>(message);
-    const int type = event->response_type & 0x7f;
-    if (type == XCB_CONFIGURE_NOTIFY && m_activeIsFullScreen
-        && static_cast<const xcb_configure_notify_event_t*>(message)->window == m_active)
-        look();
-    if (type != XCB_PROPERTY_NOTIFY)
-        return false;
-    const auto& change = *static_cast<const xcb_property_notify_event_t*>(message);
-    if (change.atom == (m_dock != XCB_WINDOW_NONE ? stacking : active)
-        || (change.atom == state && change.window == m_active))
-        look();
+    switch (event->response_type & 0x7f) {
+    case XCB_PROPERTY_NOTIFY: {
+        const auto& change = *static_cast<const xcb_property_notify_event_t*>(message);
+        if (change.atom == (m_dock != XCB_WINDOW_NONE ? stacking : active)
+            || (change.atom == state && (change.window == m_active || change.window == m_filling)))
+            look();
+        break;
+    }
+    case XCB_CONFIGURE_NOTIFY:
+    case XCB_UNMAP_NOTIFY:
+    case XCB_DESTROY_NOTIFY: {
+        // The three begin alike.
+        const auto window = static_cast<const xcb_destroy_notify_event_t*>(message)->window;
+        if (window == m_filling || (window == m_active && m_activeIsFullScreen))
+            look();
+        break;
+    }
+    }
     return false;
 }
 
@@ -97,29 +130,30 @@ bool FullScreenWatch::dockIsLowered() const
     return dock != order.end() && std::find(dock, order.end(), m_ordinary) != order.end();
 }
 
-bool FullScreenWatch::activeWindowFills()
+bool FullScreenWatch::aWindowFillsTheMainScreen()
 {
-    const auto active = x11::focusedWindow();
-    if (active == XCB_WINDOW_NONE)
-        return false;
+    const auto focused = x11::focusedWindow();
     const auto isOurs = std::ranges::any_of(QGuiApplication::topLevelWindows(),
-        [active](const QWindow* window) { return window->handle() && window->winId() == active; });
-    if (isOurs)
-        return m_isFilled; // It stands above the one that fills the screen.
-    if (std::exchange(m_active, active) != active) {
+        [focused](const QWindow* window) { return window->handle() && window->winId() == focused; });
+    // Ours stand above the one that fills the screen.
+    if (!isOurs && std::exchange(m_active, focused) != focused && focused != XCB_WINDOW_NONE) {
         constexpr std::uint32_t changes = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
-        xcb_change_window_attributes(x11::connection(), active, XCB_CW_EVENT_MASK, &changes);
+        xcb_change_window_attributes(x11::connection(), focused, XCB_CW_EVENT_MASK, &changes);
     }
-    const auto states = x11::property(active, x11::atom("_NET_WM_STATE"));
-    m_activeIsFullScreen = std::ranges::count(states, x11::atom("_NET_WM_STATE_FULLSCREEN")) > 0;
-    const auto* screen = QGuiApplication::primaryScreen();
-    const auto area = m_activeIsFullScreen ? x11::geometry(active) : std::nullopt;
-    return screen && area && area->contains(toPixels(screen->geometry(), *screen).center());
+    m_activeIsFullScreen = isFullScreen(m_active);
+    if (fillsMainScreen(m_active)) {
+        m_filling = m_active;
+        return true;
+    }
+    // With the keyboard on another screen, what fills the main one is seen all the same.
+    if (standsOnMainScreen(m_active))
+        m_filling = XCB_WINDOW_NONE;
+    return fillsMainScreen(m_filling);
 }
 
 void FullScreenWatch::look()
 {
-    const bool isFilled = m_dock != XCB_WINDOW_NONE ? dockIsLowered() : activeWindowFills();
+    const bool isFilled = m_dock != XCB_WINDOW_NONE ? dockIsLowered() : aWindowFillsTheMainScreen();
     if (std::exchange(m_isFilled, isFilled) != isFilled)
         emit changed();
 }

@@ -10,7 +10,8 @@ namespace velto {
 
 /// Says whether a window fills the main screen, so that what stands above others is in its way.
 ///
-/// On X11 that is the window with the keyboard, if its state says so and it is there. GNOME on Wayland shows other
+/// On X11 that is the window with the keyboard, if its state says so and it is there, or the one that had it before it
+/// went to another screen. GNOME on Wayland shows other
 /// programs' windows to nobody, but puts docks below ordinary windows as long as the screen is filled: two unseen
 /// windows of ours tell by their order. Main thread only.
 class FullScreenWatch final : public QObject, public QAbstractNativeEventFilter {
@@ -29,13 +30,14 @@ signals:
 
 private:
     [[nodiscard]] bool dockIsLowered() const;
-    [[nodiscard]] bool activeWindowFills();
+    [[nodiscard]] bool aWindowFillsTheMainScreen();
     void look();
 
     xcb_window_t m_dock = XCB_WINDOW_NONE; ///< Only on GNOME.
     xcb_window_t m_ordinary = XCB_WINDOW_NONE;
-    xcb_window_t m_active = XCB_WINDOW_NONE;
-    bool m_activeIsFullScreen = false; ///< On whichever screen.
+    xcb_window_t m_active = XCB_WINDOW_NONE;  ///< Of another program.
+    xcb_window_t m_filling = XCB_WINDOW_NONE; ///< The last one there that filled the main screen.
+    bool m_activeIsFullScreen = false;        ///< On whichever screen.
     bool m_isFilled = false;
 };
 

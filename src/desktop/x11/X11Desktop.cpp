@@ -251,6 +251,13 @@ std::optional<QRect> geometry(xcb_window_t window)
     return QRect(origin->dst_x, origin->dst_y, size->width, size->height);
 }
 
+bool isViewable(xcb_window_t window)
+{
+    const auto attributes = owned(
+        xcb_get_window_attributes_reply(connection(), xcb_get_window_attributes(connection(), window), nullptr));
+    return attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
 bool mouseIsPressed()
 {
     return connection() && pointer().buttonIsHeld;

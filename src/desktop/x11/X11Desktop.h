@@ -73,5 +73,7 @@ struct Pointer {
 
 /// The part of the X screen that `window` covers. Absent when the window is gone.
 [[nodiscard]] std::optional<QRect> geometry(xcb_window_t window);
+/// Whether `window` and all that it is in are mapped.
+[[nodiscard]] bool isViewable(xcb_window_t window);
 
 } // namespace velto::x11

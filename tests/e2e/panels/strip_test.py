@@ -10,23 +10,55 @@ MENU_ROLES = ("menu item", "check menu item")
 
 
 class TwoScreens(unittest.TestCase):
-    def test_a_window_that_fills_the_other_screen_leaves_the_strip_alone(self):
+    def setUp(self):
         monitors = [(1280, 800, 0, 0), (1024, 768, 1280, 0)]
-        desktop = self.enterContext(VirtualDesktop(host="none", wm="openbox", size=(2304, 800), monitors=monitors))
-        velto = desktop.start_velto({})
-        wait_for(velto.has_strip, what="the strip")
-        desktop.open_window("other")
+        self.desktop = self.enterContext(VirtualDesktop(host="none", wm="openbox", size=(2304, 800), monitors=monitors))
+        self.velto = self.desktop.start_velto({})
+        self.wait_for_the_strip()
 
+    def wait_for_the_strip(self):
+        wait_for(self.velto.has_strip, what="the strip")
+
+    def wait_until_it_is_gone(self):
+        wait_for(lambda: not self.velto.has_strip(), what="the strip gone from a filled screen")
+
+    def place(self, window, x):
+        self.desktop.ask("wmctrl", "-r", window, "-e", f"0,{x},100,300,200")
+
+    def fill_screen(self, window, action="add"):
+        self.desktop.ask("wmctrl", "-r", window, "-b", f"{action},fullscreen")
+
+    def test_a_window_that_fills_the_other_screen_leaves_the_strip_alone(self):
+        self.desktop.open_window("other")
         for x, name in ((1400, "other"), (100, "main")):
             with self.subTest(screen=name):
-                desktop.ask("wmctrl", "-r", "other", "-e", f"0,{x},100,300,200")
-                desktop.ask("wmctrl", "-r", "other", "-b", "add,fullscreen")
+                self.place("other", x)
+                self.fill_screen("other")
                 if name == "main":
-                    wait_for(lambda: not velto.has_strip(), what="the strip gone from a filled screen")
+                    self.wait_until_it_is_gone()
                 else:
-                    holds(velto.has_strip, 2)
-                desktop.ask("wmctrl", "-r", "other", "-b", "remove,fullscreen")
-                wait_for(velto.has_strip, what="the strip again")
+                    holds(self.velto.has_strip, 2)
+                self.fill_screen("other", "remove")
+                self.wait_for_the_strip()
+
+    def test_a_film_keeps_it_away_while_the_keyboard_is_on_the_other_screen(self):
+        self.desktop.open_window("notes")
+        self.place("notes", 1400)
+        self.desktop.open_window("film")
+        film = self.desktop.ask("xdotool", "search", "--name", "^film$").split()[0]
+
+        for end in (["wmctrl", "-r", "film", "-b", "remove,fullscreen"], ["xdotool", "windowminimize", film],
+                    ["wmctrl", "-c", "film"]):
+            with self.subTest(end=end):
+                self.desktop.ask("wmctrl", "-a", "film")
+                self.fill_screen("film")
+                self.wait_until_it_is_gone()
+
+                self.desktop.ask("wmctrl", "-a", "notes")
+                holds(lambda: not self.velto.has_strip(), 2)
+
+                self.desktop.ask(*end)
+                self.wait_for_the_strip()
 
 
 class TheStrip(unittest.TestCase):
