@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/bus/SessionBus.h"
 
-#include <QStandardPaths>
-
 #include <chrono>
 #include <utility>
 
@@ -16,7 +14,7 @@ QByteArray address()
 {
     if (auto stated = qgetenv("DBUS_SESSION_BUS_ADDRESS"); !stated.isEmpty())
         return stated;
-    return "unix:path=" + QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation).toUtf8() + "/bus";
+    return "unix:path=" + qgetenv("XDG_RUNTIME_DIR") + "/bus";
 }
 
 } // namespace
