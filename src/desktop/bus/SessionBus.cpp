@@ -39,13 +39,13 @@ bool SessionBus::hangs()
 
 bool SessionBus::connectToBus()
 {
-    m_connection = QDBusConnection::connectToBus(QDBusConnection::SessionBus, m_name);
-    if (!m_connection.isConnected()) {
+    auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, m_name);
+    if (!bus.isConnected()) {
         QDBusConnection::disconnectFromBus(m_name);
         return false;
     }
-    m_connection.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"),
-        QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this, SLOT(disconnected()));
+    bus.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
+        QStringLiteral("Disconnected"), this, SLOT(disconnected()));
     return true;
 }
 

@@ -13,7 +13,7 @@ namespace velto {
 
 /// A connection to the session bus that is made again when the bus comes back after it was lost.
 ///
-/// Does not try again in a session that never had a bus. Main thread only.
+/// Does not try again in a session that never had a bus, nor one whose address only libdbus finds out. Main thread only.
 ///
 ///     ask(bus.connection());
 ///     connect(&bus, &SessionBus::found, this, [this] { ask(m_bus.connection()); }); // everything anew
@@ -31,7 +31,7 @@ public:
     [[nodiscard]] static bool hangs();
 
     /// Not connected while there is no bus. A new one after each `found()`, with nothing registered on it.
-    [[nodiscard]] QDBusConnection connection() const { return m_connection; }
+    [[nodiscard]] QDBusConnection connection() const { return QDBusConnection(m_name); }
 
 Q_SIGNALS:
     void lost();
@@ -45,7 +45,6 @@ private:
     void probe();
 
     QString m_name;
-    QDBusConnection m_connection{QString()};
     QTimer m_retry;
     std::unique_ptr<BusProbe> m_probe;
 };

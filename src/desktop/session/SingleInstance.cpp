@@ -47,9 +47,8 @@ SingleInstance::SingleInstance(SessionBus& bus, std::function<void()> activated)
 
 SingleInstance::~SingleInstance()
 {
-    auto bus = m_bus.connection();
-    bus.unregisterService(serviceName);
-    bus.unregisterObject(objectPath);
+    // The name goes with the connection; giving it back would wait for the bus.
+    m_bus.connection().unregisterObject(objectPath);
 }
 
 std::optional<int> SingleInstance::claim()

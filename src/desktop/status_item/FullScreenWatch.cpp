@@ -47,11 +47,17 @@ xcb_window_t unseenWindow(const char* type)
     return window;
 }
 
-bool isFullScreen(xcb_window_t window)
+bool holds(xcb_window_t window, const char* property, const char* item)
 {
-    const auto states = x11::property(window, x11::atom("_NET_WM_STATE"));
-    return std::ranges::count(states, x11::atom("_NET_WM_STATE_FULLSCREEN")) > 0
-        && std::ranges::count(states, x11::atom("_NET_WM_STATE_HIDDEN")) == 0;
+    return std::ranges::count(x11::property(window, x11::atom(property)), x11::atom(item)) > 0;
+}
+
+bool isOnCurrentWorkspace(xcb_window_t window)
+{
+    constexpr std::uint32_t everywhere = 0xffffffff;
+    const auto workspace = x11::property(window, x11::atom("_NET_WM_DESKTOP"));
+    return workspace.empty() || workspace.front() == everywhere
+        || workspace == x11::property(x11::rootWindow(), x11::atom("_NET_CURRENT_DESKTOP"));
 }
 
 QRect mainScreen()
@@ -60,16 +66,20 @@ QRect mainScreen()
     return screen ? toPixels(screen->geometry(), *screen) : QRect();
 }
 
+/// As an ordinary window does. The one that draws the desktop may reach over all screens.
 bool standsOnMainScreen(xcb_window_t window)
 {
     const auto area = x11::geometry(window);
-    return area && mainScreen().contains(area->center());
+    return area && mainScreen().contains(area->center())
+        && !holds(window, "_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DESKTOP");
 }
 
 bool fillsMainScreen(xcb_window_t window)
 {
-    const auto area = isFullScreen(window) && x11::isViewable(window) ? x11::geometry(window) : std::nullopt;
-    return area && area->contains(mainScreen().center());
+    const auto area = x11::geometry(window);
+    return area && area->contains(mainScreen().center()) && holds(window, "_NET_WM_STATE", "_NET_WM_STATE_FULLSCREEN")
+        && !holds(window, "_NET_WM_STATE", "_NET_WM_STATE_HIDDEN") && x11::isViewable(window)
+        && isOnCurrentWorkspace(window);
 }
 
 } // namespace
@@ -100,22 +110,25 @@ bool FullScreenWatch::nativeEventFilter(const QByteArray& /*eventType*/, void* m
 {
     static const auto stacking = x11::atom("_NET_CLIENT_LIST_STACKING");
     static const auto active = x11::atom("_NET_ACTIVE_WINDOW");
+    static const auto workspace = x11::atom("_NET_CURRENT_DESKTOP");
     static const auto state = x11::atom("_NET_WM_STATE");
     const auto* event = static_cast<const xcb_generic_event_t*>(message);
     switch (event->response_type & 0x7f) {
     case XCB_PROPERTY_NOTIFY: {
         const auto& change = *static_cast<const xcb_property_notify_event_t*>(message);
         if (change.atom == (m_dock != XCB_WINDOW_NONE ? stacking : active)
+            || (change.atom == workspace && m_filling != XCB_WINDOW_NONE)
             || (change.atom == state && (change.window == m_active || change.window == m_filling)))
             look();
         break;
     }
     case XCB_CONFIGURE_NOTIFY:
+    case XCB_MAP_NOTIFY:
     case XCB_UNMAP_NOTIFY:
     case XCB_DESTROY_NOTIFY: {
-        // The three begin alike.
+        // They begin alike.
         const auto window = static_cast<const xcb_destroy_notify_event_t*>(message)->window;
-        if (window == m_filling || (window == m_active && m_activeIsFullScreen))
+        if (window == m_filling || (window == m_active && (m_activeIsFullScreen || m_filling != XCB_WINDOW_NONE)))
             look();
         break;
     }
@@ -140,15 +153,17 @@ bool FullScreenWatch::aWindowFillsTheMainScreen()
         constexpr std::uint32_t changes = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
         xcb_change_window_attributes(x11::connection(), focused, XCB_CW_EVENT_MASK, &changes);
     }
-    m_activeIsFullScreen = isFullScreen(m_active);
-    if (fillsMainScreen(m_active)) {
+    m_activeIsFullScreen = m_active != XCB_WINDOW_NONE && holds(m_active, "_NET_WM_STATE", "_NET_WM_STATE_FULLSCREEN");
+    if (m_activeIsFullScreen && fillsMainScreen(m_active)) {
         m_filling = m_active;
         return true;
     }
+    if (m_filling == XCB_WINDOW_NONE)
+        return false;
     // With the keyboard on another screen, what fills the main one is seen all the same.
-    if (standsOnMainScreen(m_active))
+    if (m_active != XCB_WINDOW_NONE && standsOnMainScreen(m_active))
         m_filling = XCB_WINDOW_NONE;
-    return fillsMainScreen(m_filling);
+    return m_filling != XCB_WINDOW_NONE && fillsMainScreen(m_filling);
 }
 
 void FullScreenWatch::look()

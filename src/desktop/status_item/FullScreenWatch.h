@@ -10,10 +10,9 @@ namespace velto {
 
 /// Says whether a window fills the main screen, so that what stands above others is in its way.
 ///
-/// On X11 that is the window with the keyboard, if its state says so and it is there, or the one that had it before it
-/// went to another screen. GNOME on Wayland shows other
-/// programs' windows to nobody, but puts docks below ordinary windows as long as the screen is filled: two unseen
-/// windows of ours tell by their order. Main thread only.
+/// On X11 that is the window with the keyboard, if it is full screen there; it goes on to fill the main screen while
+/// the keyboard is on another. GNOME on Wayland shows other programs' windows to nobody, but puts docks below ordinary
+/// windows as long as the screen is filled: two unseen windows of ours tell by their order. Main thread only.
 class FullScreenWatch final : public QObject, public QAbstractNativeEventFilter {
     Q_OBJECT
 

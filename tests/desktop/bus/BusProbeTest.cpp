@@ -15,7 +15,7 @@ QVariantList answerOf(const QByteArray& address)
 {
     BusProbe probe(address);
     QSignalSpy answered(&probe, &BusProbe::answered);
-    if (answered.isEmpty() && !answered.wait(patience))
+    if (!answered.wait(patience))
         return {};
     return answered.takeFirst();
 }

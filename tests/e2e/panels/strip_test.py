@@ -42,19 +42,22 @@ class TwoScreens(unittest.TestCase):
                 self.wait_for_the_strip()
 
     def test_a_film_keeps_it_away_while_the_keyboard_is_on_the_other_screen(self):
-        self.desktop.open_window("notes")
+        notes = self.desktop.open_window("notes")
         self.place("notes", 1400)
+        self.desktop.ask("wmctrl", "-r", "notes", "-b", "add,sticky")
         self.desktop.open_window("film")
+        self.place("film", 100)
         film = self.desktop.ask("xdotool", "search", "--name", "^film$").split()[0]
 
         for end in (["wmctrl", "-r", "film", "-b", "remove,fullscreen"], ["xdotool", "windowminimize", film],
-                    ["wmctrl", "-c", "film"]):
+                    ["wmctrl", "-s", "1"], ["wmctrl", "-c", "film"]):
             with self.subTest(end=end):
                 self.desktop.ask("wmctrl", "-a", "film")
                 self.fill_screen("film")
                 self.wait_until_it_is_gone()
 
                 self.desktop.ask("wmctrl", "-a", "notes")
+                wait_for(lambda: notes.has_state("focused"), what="the keyboard on the other screen")
                 holds(lambda: not self.velto.has_strip(), 2)
 
                 self.desktop.ask(*end)
