@@ -2,6 +2,7 @@
 """In a session of Wayland presses beside the card cannot be seen. So the card takes the keyboard when it is asked for,
 and goes when it loses it."""
 import re
+import time
 import unittest
 
 from desktop import VirtualDesktop, holds, wait_for
@@ -81,6 +82,18 @@ class XWayland(Story):
 
         wait_for(lambda: not self.velto.other_windows, what="no form")
         holds(lambda: self.velto.card_is_visible, 1, "the card")
+        self.desktop.key("Escape")
+        wait_for(self.hidden, what="the hidden card")
+
+    def test_cancelling_the_form_keeps_the_card_beside_a_slow_window_manager(self):
+        self.open_form()
+
+        with self.desktop.paused(self.desktop.window_manager):
+            self.desktop.key("Escape")
+            time.sleep(0.5)
+
+        wait_for(lambda: not self.velto.other_windows, what="no form")
+        holds(lambda: self.velto.card_is_visible, 1.5, "the card")
         self.desktop.key("Escape")
         wait_for(self.hidden, what="the hidden card")
 

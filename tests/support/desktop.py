@@ -10,6 +10,7 @@ Nothing of it is shared with the machine or with another test: display, bus, hom
 and whatever it started is gone when it ends, also when the test itself is killed. Needs the system's
 Python (/usr/bin/python3) with gi.
 """
+import contextlib
 import os
 import plistlib
 import re
@@ -253,11 +254,12 @@ class VirtualDesktop:
         self._start_x_server()
         self.start_bus()
         if self._wm_kind == "xfwm4":
-            self.run("xfwm4", f"--compositor={'on' if self._compositing else 'off'}", "--sm-client-disable")
+            self.window_manager = self.run(
+                "xfwm4", f"--compositor={'on' if self._compositing else 'off'}", "--sm-client-disable")
         elif self._wm_kind == "openbox":
             with open(self.path("config/openbox.xml"), "w", encoding="utf-8") as file:
                 file.write(_OPENBOX.format(program=self.program))
-            self.run("openbox", "--config-file", file.name)
+            self.window_manager = self.run("openbox", "--config-file", file.name)
         if self._wm_kind != "none":
             wait_for(lambda: "window id" in self.ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
                      what="a window manager")
@@ -298,6 +300,15 @@ class VirtualDesktop:
             self.bus, "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress")[0]), what="an accessibility bus")
         self.run("/usr/bin/python3", os.path.join(_HERE, "portal.py"), "1" if self.dark else "2")
         wait_for(lambda: self._has_owner("org.freedesktop.portal.Desktop"), what="the settings portal")
+
+    @contextlib.contextmanager
+    def paused(self, process):
+        """`process` hangs meanwhile."""
+        process.send_signal(signal.SIGSTOP)
+        try:
+            yield
+        finally:
+            process.send_signal(signal.SIGCONT)
 
     def stop_bus(self):
         """Kills the session bus, and the panel bar with it."""

@@ -9,8 +9,11 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <chrono>
 #include <utility>
 #include <vector>
+
+using namespace std::chrono_literals;
 
 namespace velto {
 
@@ -49,6 +52,8 @@ WindowKeyboard::WindowKeyboard(QWidget& window, Focus focus, WindowKeyboard* bel
 {
     announce();
     window.windowHandle()->installEventFilter(this);
+    m_settling.setSingleShot(true);
+    m_settling.setInterval(1s);
     if (focus != Focus::taken)
         watchUse();
     else if (!below)
@@ -115,10 +120,28 @@ void WindowKeyboard::watchUse()
 /// windows are not.
 void WindowKeyboard::watchLoss()
 {
-    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* now) {
-        if (!now && m_window.isVisible() && m_oldLoss.hasExpired())
-            m_dismiss();
+    m_settling.callOnTimeout([this] {
+        m_isGivenBack = false;
+        judgeLoss();
     });
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &WindowKeyboard::judgeLoss);
+}
+
+void WindowKeyboard::judgeLoss()
+{
+    if (QGuiApplication::focusWindow() || !m_window.isVisible())
+        return;
+    if (!m_settling.isActive())
+        m_dismiss();
+    else if (std::exchange(m_isGivenBack, false))
+        x11::focus(id()); // Some window managers pass it on to another program once the window above is gone.
+}
+
+/// The keyboard is on its way here. Meanwhile others may have it, or none.
+void WindowKeyboard::settle()
+{
+    if (m_focus == Focus::taken && !m_below)
+        m_settling.start();
 }
 
 bool WindowKeyboard::isNeededFor(const QWidget* widget) const
@@ -182,7 +205,7 @@ void WindowKeyboard::claim()
         return;
     // Hidden with the keyboard, the window has stayed the active one for one half of Qt, which would not tell the
     // other, the widgets, that it is so again; or which is still to tell that it was lost then.
-    m_oldLoss = QDeadlineTimer(500);
+    settle();
     QT_IGNORE_DEPRECATIONS(QApplication::setActiveWindow(&m_window);) // Nothing else reaches them.
     // Told so while it was hidden, they have given none of its controls the focus.
     if (auto* used = m_window.focusWidget())
@@ -193,10 +216,13 @@ void WindowKeyboard::giveBack()
 {
     if (!x11::connection())
         return;
-    if (m_below && m_below->m_isAccepted)
+    if (m_below && m_below->m_isAccepted) {
+        m_below->m_isGivenBack = true;
+        m_below->settle();
         x11::focus(m_below->id());
-    else if (m_previouslyFocused != XCB_WINDOW_NONE)
+    } else if (m_previouslyFocused != XCB_WINDOW_NONE) {
         x11::focus(m_previouslyFocused);
+    }
 }
 
 xcb_window_t WindowKeyboard::id() const

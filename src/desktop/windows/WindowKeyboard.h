@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QDeadlineTimer>
 #include <QObject>
+#include <QTimer>
 
 #include <functional>
 
@@ -51,6 +51,8 @@ public:
 private:
     void watchUse();
     void watchLoss();
+    void judgeLoss();
+    void settle();
     [[nodiscard]] bool isNeededFor(const QWidget* widget) const;
     void setAccepted(bool isAccepted);
     void announce();
@@ -65,8 +67,9 @@ private:
     std::function<void()> m_dismiss;
     bool m_isAccepted = false;
     bool m_isOnScreen = false;
-    bool m_isWanted = false;  ///< As soon as the window is on the screen.
-    QDeadlineTimer m_oldLoss; ///< Until then a loss may be that of the showing before.
+    bool m_isWanted = false; ///< As soon as the window is on the screen.
+    QTimer m_settling; ///< While it runs, the keyboard may be on its way here; what counts is where it is at the end.
+    bool m_isGivenBack = false; ///< By a window above, a moment ago.
     xcb_window_t m_previouslyFocused = XCB_WINDOW_NONE;
 };
 

@@ -36,7 +36,7 @@ class Day(unittest.TestCase):
         self.addCleanup(self.streams.close)
         self.countdown = Countdown(self.desktop, SPEED)
         self.countdown.listen()
-        self.window_manager = next(process for process in self.desktop._processes if process.args[0] == "xfwm4")
+        self.window_manager = self.desktop.window_manager
         self.monitors = []
 
         # What the links of the About window open.
