@@ -13,7 +13,8 @@ namespace velto {
 
 /// A connection to the session bus that is made again when the bus comes back after it was lost.
 ///
-/// Does not try again in a session that never had a bus, nor one whose address only libdbus finds out. Main thread only.
+/// Does not try again in a session that never had a bus, nor for one whose address only libdbus finds out. Main thread
+/// only.
 ///
 ///     ask(bus.connection());
 ///     connect(&bus, &SessionBus::found, this, [this] { ask(m_bus.connection()); }); // everything anew

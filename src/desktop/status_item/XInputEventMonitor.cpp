@@ -5,6 +5,7 @@
 #include "desktop/status_item/X11Pointer.h"
 #include "desktop/x11/X11Desktop.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QSocketNotifier>
 #include <QWindow>
@@ -60,17 +61,29 @@ Press::Target targetOf(const x11::Pointer& pointer)
 
 XInputEventMonitor::XInputEventMonitor(ClickGesture& gesture) : m_gesture(gesture)
 {
-    m_gesture.setCatchUp([this] {
-        if (!m_isListening)
-            return;
-        XSync(m_display.get(), False);
-        readEvents();
-    });
+    m_gesture.setCatchUp([this] { catchUp(); });
+    qApp->installEventFilter(this);
 }
 
 XInputEventMonitor::~XInputEventMonitor()
 {
     m_gesture.setCatchUp(nullptr);
+}
+
+/// A press may close the window that it is in. It is to be judged while that is there.
+bool XInputEventMonitor::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress && watched->isWindowType())
+        catchUp();
+    return false;
+}
+
+void XInputEventMonitor::catchUp()
+{
+    if (!m_isListening)
+        return;
+    XSync(m_display.get(), False);
+    readEvents();
 }
 
 void XInputEventMonitor::CloseDisplay::operator()(_XDisplay* display) const

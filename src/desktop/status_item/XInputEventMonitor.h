@@ -34,6 +34,8 @@ public:
     /// As if there had been a press elsewhere: for what closes the panel where presses can't be seen.
     void dismiss();
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     struct CloseDisplay {
         void operator()(_XDisplay* display) const;
@@ -41,6 +43,7 @@ private:
 
     [[nodiscard]] bool connect();
     void followInterest();
+    void catchUp();
     void readEvents();
     void readRawEvent(int type, int flags, int detail);
     void press(bool isSecondary);

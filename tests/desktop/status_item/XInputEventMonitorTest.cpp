@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
@@ -75,6 +76,25 @@ TEST_F(XInputEventMonitorTest, EachPressOfTheLeftAndOfTheRightButtonCountsOnce)
     ASSERT_TRUE(Desktop::click(1500, 900));
     EXPECT_TRUE(count(3)) << presses << " on the bare desktop";
     EXPECT_EQ(other.takePresses(), 2) << "the press still goes where it belongs";
+}
+
+TEST_F(XInputEventMonitorTest, AClickThatClosesItsWindowDoesNotCountThoughItIsReadLate)
+{
+    QPushButton close;
+    close.setGeometry(400, 400, 300, 200);
+    QObject::connect(&close, &QPushButton::clicked, &close, &QWidget::hide);
+    close.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&close));
+    const auto token = watch();
+    ASSERT_TRUE(Desktop::click(500, 500));
+
+    QMouseEvent press(QEvent::MouseButtonPress, {100, 100}, {500, 500}, Qt::LeftButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(close.windowHandle(), &press);
+    QMouseEvent release(QEvent::MouseButtonRelease, {100, 100}, {500, 500}, Qt::LeftButton, Qt::NoButton, {});
+    QCoreApplication::sendEvent(close.windowHandle(), &release);
+    ASSERT_FALSE(close.isVisible());
+
+    EXPECT_TRUE(stays([&] { return presses == 0; }));
 }
 
 TEST_F(XInputEventMonitorTest, OtherButtonsAndTheWheelDoNotCount)

@@ -77,6 +77,16 @@ class SettingsForm(unittest.TestCase):
         self.settings_become(DEFAULTS)
         wait_for(lambda: self.velto.time == "25:00")
 
+    def test_a_click_that_is_seen_late_keeps_the_card(self):
+        self.start()
+        apply = self.open().button("Apply").middle
+
+        with desktop.paused(self.velto.process):
+            desktop.click(*apply)
+
+        self.settings_become(DEFAULTS)
+        holds(lambda: self.velto.card_is_visible, 1, "the card")
+
     def test_an_untouched_form_stores_all_thirteen_settings_with_their_types(self):
         self.start()
         self.assertEqual(self.velto.settings, {"hasLaunchedBefore": True})
