@@ -24,6 +24,10 @@ bool takesText(const QWidget* widget)
     return widget && widget->testAttribute(Qt::WA_InputMethodEnabled) && widget->focusPolicy() != Qt::NoFocus;
 }
 
+/// Until then the keyboard may be on its way to a window of this program, and meanwhile at another program's or none;
+/// and a loss that is told may be that of the showing before.
+QDeadlineTimer onItsWay;
+
 /// Whether `widget` belongs to `window`, be it in one of its pop-ups.
 bool isWithin(const QWidget* window, const QWidget* widget)
 {
@@ -52,8 +56,6 @@ WindowKeyboard::WindowKeyboard(QWidget& window, Focus focus, WindowKeyboard* bel
 {
     announce();
     window.windowHandle()->installEventFilter(this);
-    m_settling.setSingleShot(true);
-    m_settling.setInterval(1s);
     if (focus != Focus::taken)
         watchUse();
     else if (!below)
@@ -120,10 +122,8 @@ void WindowKeyboard::watchUse()
 /// windows are not.
 void WindowKeyboard::watchLoss()
 {
-    m_settling.callOnTimeout([this] {
-        m_isGivenBack = false;
-        judgeLoss();
-    });
+    m_judgement.setSingleShot(true);
+    m_judgement.callOnTimeout([this] { judgeLoss(); });
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &WindowKeyboard::judgeLoss);
 }
 
@@ -131,17 +131,11 @@ void WindowKeyboard::judgeLoss()
 {
     if (QGuiApplication::focusWindow() || !m_window.isVisible())
         return;
-    if (!m_settling.isActive())
-        m_dismiss();
-    else if (std::exchange(m_isGivenBack, false))
+    if (onItsWay.hasExpired())
+        return m_dismiss();
+    if (!std::exchange(m_givenBack, QDeadlineTimer()).hasExpired())
         x11::focus(id()); // Some window managers pass it on to another program once the window above is gone.
-}
-
-/// The keyboard is on its way here. Meanwhile others may have it, or none.
-void WindowKeyboard::settle()
-{
-    if (m_focus == Focus::taken && !m_below)
-        m_settling.start();
+    m_judgement.start(static_cast<int>(onItsWay.remainingTime()));
 }
 
 bool WindowKeyboard::isNeededFor(const QWidget* widget) const
@@ -199,13 +193,13 @@ void WindowKeyboard::claim()
     m_isWanted = !m_isOnScreen;
     if (m_isWanted)
         return;
+    onItsWay = QDeadlineTimer(1s);
     if (x11::connection())
         x11::focus(id());
     if (QGuiApplication::focusWindow() != m_window.windowHandle())
         return;
     // Hidden with the keyboard, the window has stayed the active one for one half of Qt, which would not tell the
-    // other, the widgets, that it is so again; or which is still to tell that it was lost then.
-    settle();
+    // other, the widgets, that it is so again.
     QT_IGNORE_DEPRECATIONS(QApplication::setActiveWindow(&m_window);) // Nothing else reaches them.
     // Told so while it was hidden, they have given none of its controls the focus.
     if (auto* used = m_window.focusWidget())
@@ -217,8 +211,7 @@ void WindowKeyboard::giveBack()
     if (!x11::connection())
         return;
     if (m_below && m_below->m_isAccepted) {
-        m_below->m_isGivenBack = true;
-        m_below->settle();
+        m_below->m_givenBack = onItsWay = QDeadlineTimer(1s);
         x11::focus(m_below->id());
     } else if (m_previouslyFocused != XCB_WINDOW_NONE) {
         x11::focus(m_previouslyFocused);

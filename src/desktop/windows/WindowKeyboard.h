@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -52,7 +53,6 @@ private:
     void watchUse();
     void watchLoss();
     void judgeLoss();
-    void settle();
     [[nodiscard]] bool isNeededFor(const QWidget* widget) const;
     void setAccepted(bool isAccepted);
     void announce();
@@ -67,9 +67,9 @@ private:
     std::function<void()> m_dismiss;
     bool m_isAccepted = false;
     bool m_isOnScreen = false;
-    bool m_isWanted = false; ///< As soon as the window is on the screen.
-    QTimer m_settling; ///< While it runs, the keyboard may be on its way here; what counts is where it is at the end.
-    bool m_isGivenBack = false; ///< By a window above, a moment ago.
+    bool m_isWanted = false;    ///< As soon as the window is on the screen.
+    QTimer m_judgement;         ///< Of a loss that may only be a moment between two windows.
+    QDeadlineTimer m_givenBack; ///< By a window above. Until then it may be passed on.
     xcb_window_t m_previouslyFocused = XCB_WINDOW_NONE;
 };
 
