@@ -15,6 +15,12 @@ QSocketNotifier* notifierOf(DBusWatch* watch)
     return static_cast<QSocketNotifier*>(dbus_watch_get_data(watch));
 }
 
+/// Let in, or hung up on.
+bool isDecided(DBusConnection* connection)
+{
+    return dbus_connection_get_is_authenticated(connection) || !dbus_connection_get_is_connected(connection);
+}
+
 } // namespace
 
 void BusProbe::Close::operator()(DBusConnection* connection) const
@@ -38,13 +44,9 @@ bool BusProbe::hangs(const QByteArray& address, std::chrono::milliseconds patien
     if (!connection)
         return false;
     const QDeadlineTimer deadline(patience);
-    const auto isPending = [&] {
-        return dbus_connection_get_is_connected(connection.get())
-            && !dbus_connection_get_is_authenticated(connection.get());
-    };
-    while (isPending() && !deadline.hasExpired())
+    while (!isDecided(connection.get()) && !deadline.hasExpired())
         dbus_connection_read_write(connection.get(), static_cast<int>(deadline.remainingTime()));
-    return isPending();
+    return !isDecided(connection.get());
 }
 
 void BusProbe::listen()
@@ -70,12 +72,10 @@ void BusProbe::listen()
 
 void BusProbe::look()
 {
-    const bool isThere = m_connection && dbus_connection_get_is_authenticated(m_connection.get());
-    const bool isGone = !m_connection || !dbus_connection_get_is_connected(m_connection.get());
-    if (m_hasAnswered || !(isThere || isGone))
+    if (m_hasAnswered || (m_connection && !isDecided(m_connection.get())))
         return;
     m_hasAnswered = true;
-    Q_EMIT answered(isThere);
+    Q_EMIT answered(m_connection && dbus_connection_get_is_authenticated(m_connection.get()));
 }
 
 } // namespace velto
